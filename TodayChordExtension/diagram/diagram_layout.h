@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "TodayChordExtension/diagram/chord_view.h"
+
+namespace todaychord {
+
+// Lengths are design units; string indexes count in display order from the left, 0 to 5.
+
+/// What a dot stands for; strings that share one are held by the same finger.
+struct FretFinger1 {
+  WholeNumber fret = 0;
+  WholeNumber finger = 0;
+
+  friend auto operator<=>(const FretFinger1&, const FretFinger1&) = default;
+};
+
+/// A finger on a string. Its centre is given in the marker layer, whose origin lies at (6.5, 6.5)
+/// of the view.
+struct FingerDot {
+  int stringIndex = 0;
+  double x = 0;
+  double y = 0;
+  WholeNumber finger = -1;  ///< -1 or 0 where no finger is known
+
+  friend bool operator==(const FingerDot&, const FingerDot&) = default;
+};
+
+/// A bar between two strings that one finger holds; anchor and width as the diagram defines them.
+struct BarreSegment {
+  int startStringIndex = 0;
+  int endStringIndex = 0;
+  WholeNumber fret = 0;  ///< displayed row of the first string
+  double x = 0;
+  double y = 0;
+  double width = 0;
+
+  friend bool operator==(const BarreSegment&, const BarreSegment&) = default;
+};
+
+/// The name of a sounding string's note, spelled as the chord spells it; "" when it is no chord
+/// tone. Its centre is given in view space.
+struct NoteLabel {
+  int stringIndex = 0;
+  std::string note;
+  double x = 0;
+  double y = 0;
+
+  /// Tells the labels of one diagram apart.
+  int id() const { return stringIndex; }
+
+  friend bool operator==(const NoteLabel&, const NoteLabel&) = default;
+};
+
+/// Where everything that depends on the fingering lies.
+struct DiagramLayout {
+  double scale = 1;
+  WholeNumber baseFret = 1;     ///< fret of row 1
+  WholeNumbers displayedFrets;  ///< row per string in display order; -1 muted, 0 open
+  std::vector<FingerDot> dots;
+  std::vector<BarreSegment> barres;
+  std::vector<NoteLabel> noteLabels;  ///< none unless the view displays notes
+};
+
+/// Pixels per design unit in a view `width` wide, never below 0.5.
+double diagramScale(double width);
+
+/// The layout of a view `width` wide. Lists that do not hold six values place what they have.
+DiagramLayout layOutDiagram(const ChordView& view, double width);
+
+}  // namespace todaychord

@@ -1,0 +1,31 @@
+#pragma once
+
+namespace todaychord {
+
+struct Point {
+  double x = 0;
+  double y = 0;
+
+  friend bool operator==(const Point&, const Point&) = default;
+};
+
+/// One cubic curve.
+struct Curve {
+  Point start;
+  Point control1;
+  Point control2;
+  Point end;
+
+  friend bool operator==(const Curve&, const Curve&) = default;
+};
+
+/// A string that bows towards where it is plucked; straight when it is not displaced.
+struct StringShape {
+  double displacement = 0;  ///< sideways, design units
+  double touchY = 0.5;      ///< where it is touched: 0 the top, 1 the bottom
+
+  /// The string in a rectangle of this size, from the middle of its top to that of its bottom.
+  Curve path(double width, double height) const;
+};
+
+}  // namespace todaychord

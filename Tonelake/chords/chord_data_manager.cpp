@@ -1,0 +1,104 @@
+#include "Tonelake/chords/chord_data_manager.h"
+
+#include <algorithm>
+#include <array>
+
+#include "Tonelake/chords/chord_dictionary.h"
+#include "Tonelake/chords/chord_types_json.h"
+#include "Tonelake/foundation/text.h"
+#include "Tonelake/platform/embedded_resources.h"
+#include "Tonelake/platform/platform.h"
+
+namespace tonelake {
+namespace {
+
+// No E♯, B♯, C♭ or F♭: nobody looks a chord up there.
+constexpr std::array<Note, 17> rootNotes{Note::C,  Note::D,  Note::E,  Note::F,  Note::G,  Note::A,
+                                         Note::B,  Note::Cs, Note::Ds, Note::Fs, Note::Gs, Note::As,
+                                         Note::Df, Note::Ef, Note::Gf, Note::Af, Note::Bf};
+
+std::string_view embeddedText() {
+  for (const EmbeddedResource& resource : embeddedResources()) {
+    if (resource.fileName == "chord_types.json") return resource.contents;
+  }
+  return "";
+}
+
+// An empty text means no names; anything else is cut at every comma, so that ",M" holds the
+// empty name: a bare root is a major chord.
+std::vector<std::string> splitNames(const std::string& otherNames) {
+  if (otherNames.empty()) return {};
+  const auto pieces = split(otherNames, ',');
+  return {pieces.begin(), pieces.end()};
+}
+
+ChordData resolve(const std::string& title, const ChordDefinition& definition) {
+  return ChordData{title,
+                   definition.shortName,
+                   definition.prefixSpace == 1,
+                   splitNames(definition.otherNames),
+                   definition.formula,
+                   definition.notes};
+}
+
+// In the text "5" stands beside the triads; screens show it after the seventh chords.
+void moveToDisplayOrder(std::vector<std::string>& types) {
+  const auto power = std::find(types.begin(), types.end(), "5");
+  const auto target = std::find(types.begin(), types.end(), "minor major 7th");
+  if (power < target && target != types.end()) std::rotate(power, power + 1, target + 1);
+}
+
+}  // namespace
+
+const ChordDataManager& ChordDataManager::shared() {
+  static const ChordDataManager manager(embeddedText(), *processPlatform().diagnostics);
+  return manager;
+}
+
+ChordDataManager::ChordDataManager(std::string_view text, Diagnostics& diagnostics) {
+  try {
+    const json::Value document = json::parse(text);
+    for (const auto& [title, definition] : decodeChordsWrapper(json::Node(document)).chords) {
+      chordData_.emplace(title, resolve(title, definition));
+      chordTypes_.push_back(title);
+    }
+    moveToDisplayOrder(chordTypes_);
+  } catch (const json::DecodingError& error) {
+    diagnostics.write(std::string("Failed to parse JSON: ") + error.what());
+  }
+}
+
+const ChordData* ChordDataManager::chordData(std::string_view chordType) const {
+  const auto found = chordData_.find(chordType);
+  return found == chordData_.end() ? nullptr : &found->second;
+}
+
+const ChordDataManager::ChordDictionary& ChordDataManager::chordDictionary() const {
+  std::call_once(dictionaryOnce_, [this] { chordDictionary_ = makeChordDictionary(*this); });
+  return chordDictionary_;
+}
+
+std::span<const Note> ChordDataManager::allRootNotes() const {
+  return rootNotes;
+}
+
+const std::vector<std::string>& chordTypes() {
+  return ChordDataManager::shared().chordTypes();
+}
+
+namespace Chords {
+
+const std::map<std::string, ChordData, std::less<>>& getChordData() {
+  return ChordDataManager::shared().chordData();
+}
+
+const ChordData* getChordData(std::string_view forChordType) {
+  return ChordDataManager::shared().chordData(forChordType);
+}
+
+const ChordDataManager::ChordDictionary& getChordDictionary() {
+  return ChordDataManager::shared().chordDictionary();
+}
+
+}  // namespace Chords
+}  // namespace tonelake

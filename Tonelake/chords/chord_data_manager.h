@@ -1,0 +1,69 @@
+#pragma once
+
+#include <map>
+#include <mutex>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "Tonelake/chords/chord.h"
+#include "Tonelake/chords/chord_data.h"
+#include "Tonelake/chords/priority_list.h"
+#include "Tonelake/platform/diagnostics.h"
+
+namespace tonelake {
+
+/// The chord-type dictionary and what is derived from it. Nothing changes after construction, so
+/// any thread may read.
+class ChordDataManager {
+ public:
+  using ChordDictionary = std::unordered_map<std::string, Chord>;
+
+  /// The library's own dictionary of 49 chord types, made on first use.
+  static const ChordDataManager& shared();
+
+  /// A dictionary from a text of the same form. When it cannot be read, one diagnostic line says
+  /// why and the manager is empty: every look-up gives its empty result.
+  ChordDataManager(std::string_view text, Diagnostics& diagnostics);
+
+  const std::map<std::string, ChordData, std::less<>>& chordData() const { return chordData_; }
+
+  /// The data of one chord type (exact name), owned by the manager; nullptr when unknown.
+  const ChordData* chordData(std::string_view chordType) const;
+
+  /// Chord-type names as screens list them: the order of the text, but "5" after
+  /// "minor major 7th".
+  const std::vector<std::string>& chordTypes() const { return chordTypes_; }
+
+  /// Chord by name: every title, shortest title and alternate title of every root in
+  /// allRootNotes, type and variant, and the same written with "#" and "b". Where two chords
+  /// claim a name the exact title wins, then the shorter type name, then display order. Made on
+  /// first use, since only typed names need it.
+  const ChordDictionary& chordDictionary() const;
+
+  /// Preferred fingerings by chord.
+  std::span<const PriorityEntry> priorityList() const { return tonelake::priorityList(); }
+
+  /// The roots that chords are offered on, in display order.
+  std::span<const Note> allRootNotes() const;
+
+ private:
+  std::map<std::string, ChordData, std::less<>> chordData_;
+  std::vector<std::string> chordTypes_;
+  mutable std::once_flag dictionaryOnce_;
+  mutable ChordDictionary chordDictionary_;
+};
+
+/// ChordDataManager::shared().chordTypes().
+const std::vector<std::string>& chordTypes();
+
+namespace Chords {
+
+const std::map<std::string, ChordData, std::less<>>& getChordData();
+const ChordData* getChordData(std::string_view forChordType);
+const ChordDataManager::ChordDictionary& getChordDictionary();
+
+}  // namespace Chords
+}  // namespace tonelake

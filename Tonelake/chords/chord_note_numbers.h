@@ -1,0 +1,19 @@
+#pragma once
+
+#include <span>
+
+#include "Tonelake/chords/chord.h"
+#include "Tonelake/foundation/whole_number.h"
+
+namespace tonelake::Chords {
+
+/// MIDI numbers of the chord's first fingering in standard tuning, lowest string first, an octave
+/// below the sounding pitch of a guitar (the open E is 28), kept on purpose. A chord without a
+/// fingering is a programming error.
+WholeNumbers getNoteNumbersForChord(const Chord& chord);
+
+/// MIDI numbers of a piano voicing, strictly ascending: `formula` holds semitones above the root
+/// (E is 40, C is 48), and a tone that would not lie above the one before it is lifted by octaves.
+WholeNumbers getChordPianoNotes(Note root, std::span<const WholeNumber> formula);
+
+}  // namespace tonelake::Chords

@@ -1,0 +1,55 @@
+#include "Tonelake/chords/chord_spelling.h"
+
+#include <string_view>
+
+#include "Tonelake/chords/chord_data_manager.h"
+#include "Tonelake/foundation/fatal.h"
+#include "Tonelake/foundation/text.h"
+#include "Tonelake/theory/interval.h"
+
+namespace tonelake {
+namespace {
+
+// The number in a formula piece: "♭♭7" is 7, "♯11" is 11, 0 without digits.
+WholeNumber degreeOf(std::string_view piece) {
+  constexpr std::string_view digits = "0123456789";
+  const std::size_t begin = piece.find_first_of(digits);
+  if (begin == std::string_view::npos) return 0;
+  WholeNumber degree = 0;
+  for (const char digit : piece.substr(begin, piece.find_first_not_of(digits, begin) - begin)) {
+    degree = degree * 10 + (digit - '0');
+  }
+  return degree;
+}
+
+}  // namespace
+
+std::vector<std::string> spellTones(Note root, const ChordData& data) {
+  const auto pieces = split(data.formula, '-');
+  if (pieces.size() > data.notes.size()) {
+    stopWithProgrammingError("a chord formula has more degrees than tones");
+  }
+  std::vector<std::string> tones;
+  tones.reserve(pieces.size());
+  for (std::size_t i = 0; i < pieces.size(); ++i) {
+    tones.push_back(
+        Interval::getNoteWithDistance(data.notes[i], degreeOf(pieces[i]), root.rawValue()));
+  }
+  return tones;
+}
+
+namespace Chords {
+
+std::vector<std::string> getNotesOfChord(const Chord& chord) {
+  const ChordData* data = getChordData(chord.chordType);
+  return data == nullptr ? std::vector<std::string>() : spellTones(chord.rootNote, *data);
+}
+
+bool isShowable(const Chord& chord) {
+  const ChordData* data = getChordData(chord.chordType);
+  return data != nullptr && chord.variant >= 0 &&
+         chord.variant < static_cast<WholeNumber>(data->notes.size());
+}
+
+}  // namespace Chords
+}  // namespace tonelake

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "Tonelake/platform/string_table.h"
+
+namespace tonelake {
+
+/// Which chord tone is in the bass, counted like Chord::variant.
+class Inversion {
+ public:
+  enum Case : std::uint8_t {
+    rootPosition,
+    firstInversion,
+    secondInversion,
+    thirdInversion,
+    fourthInversion,
+    fifthInversion,
+    sixthInversion,
+    seventhInversion,
+  };
+
+  constexpr Inversion(Case inversion) noexcept
+      : case_(inversion) {}                                   // NOLINT(google-explicit-constructor)
+  constexpr operator Case() const noexcept { return case_; }  // NOLINT(google-explicit-constructor)
+
+  static std::optional<Inversion> fromRawValue(std::string_view rawValue) noexcept;
+  static std::span<const Inversion> allCases() noexcept;
+
+  /// For example "inversion.first".
+  std::string_view rawValue() const noexcept;
+  /// The raw value: the key under which the name is translated.
+  std::string_view localizedKey() const noexcept { return rawValue(); }
+  /// The name in the current locale, for example "First inversion".
+  std::string localizedName() const;
+  std::string localizedName(const StringTable& strings) const;
+
+ private:
+  Case case_;
+};
+
+}  // namespace tonelake

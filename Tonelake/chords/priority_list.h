@@ -1,0 +1,23 @@
+#pragma once
+
+#include <span>
+
+#include "Tonelake/chords/chord.h"
+#include "Tonelake/theory/frets.h"
+
+namespace tonelake {
+
+/// A chord and the fingerings to offer first for it, in order of preference.
+struct PriorityEntry {
+  Chord chord;
+  std::span<const Frets> fingerings;
+};
+
+/// Preferred fingerings of 31 chords. Roots are spelled with sharps, variants are 0: E♭ major has
+/// no entry, D♯ major has.
+std::span<const PriorityEntry> priorityList();
+
+/// The chord's entry, or an empty list.
+std::span<const Frets> preferredFingerings(const Chord& chord);
+
+}  // namespace tonelake

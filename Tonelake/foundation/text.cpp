@@ -1,0 +1,76 @@
+#include "Tonelake/foundation/text.h"
+
+#include <cstdint>
+
+namespace tonelake {
+namespace {
+
+// Bytes 10xxxxxx continue a character that an earlier byte began.
+constexpr bool isContinuation(char byte) noexcept {
+  return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+// Length in bytes of the well-formed character at the front of `text`, or 0.
+std::size_t characterLength(std::string_view text) noexcept {
+  const auto lead = static_cast<unsigned char>(text.front());
+  if (lead < 0x80U) return 1;
+  const std::size_t length = lead >= 0xF0U ? 4 : lead >= 0xE0U ? 3 : lead >= 0xC0U ? 2 : 0;
+  if (length == 0 || lead > 0xF4U || text.size() < length) return 0;
+  // The lead byte keeps 7 - length payload bits, every further byte six.
+  std::uint32_t code = lead & (0x7FU >> length);
+  for (std::size_t i = 1; i < length; ++i) {
+    if (!isContinuation(text[i])) return 0;
+    code = code << 6U | (static_cast<unsigned char>(text[i]) & 0x3FU);
+  }
+  constexpr std::uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+  const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
+  return code < smallest[length] || isSurrogate || code > 0x10FFFF ? 0 : length;
+}
+
+}  // namespace
+
+std::vector<std::string_view> split(std::string_view text, char separator) {
+  std::vector<std::string_view> pieces;
+  for (std::size_t end = text.find(separator); end != std::string_view::npos;
+       end = text.find(separator)) {
+    pieces.push_back(text.substr(0, end));
+    text.remove_prefix(end + 1);
+  }
+  pieces.push_back(text);
+  return pieces;
+}
+
+std::string join(const std::vector<std::string>& pieces, std::string_view separator) {
+  std::string joined;
+  for (const std::string& piece : pieces) {
+    if (&piece != &pieces.front()) joined += separator;
+    joined += piece;
+  }
+  return joined;
+}
+
+std::string replaceAll(std::string_view text, std::string_view from, std::string_view to) {
+  std::string replaced;
+  for (std::size_t at = text.find(from); at != std::string_view::npos; at = text.find(from)) {
+    replaced.append(text.substr(0, at)).append(to);
+    text.remove_prefix(at + from.size());
+  }
+  return replaced.append(text);
+}
+
+std::size_t countCharacters(std::string_view text) noexcept {
+  std::size_t count = 0;
+  for (const char byte : text) count += isContinuation(byte) ? 0 : 1;
+  return count;
+}
+
+bool isValidUtf8(std::string_view text) noexcept {
+  while (!text.empty()) {
+    const std::size_t length = characterLength(text);
+    if (length == 0) return false;
+    text.remove_prefix(length);
+  }
+  return true;
+}
+
+}  // namespace tonelake

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tonelake {
+
+/// The pieces of `text` between separators, empty ones included; "" gives one empty piece.
+std::vector<std::string_view> split(std::string_view text, char separator);
+
+/// The pieces with `separator` between them: {"E","A"} and "," give "E,A".
+std::string join(const std::vector<std::string>& pieces, std::string_view separator);
+
+/// `text` with every occurrence of `from` (not empty) replaced by `to`.
+std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
+
+/// Characters as a reader counts them. Our names hold no combining marks, so one code point is
+/// one character: "E♭" has two. `text` is UTF-8.
+std::size_t countCharacters(std::string_view text) noexcept;
+
+/// Whether `text` is well-formed UTF-8 (no overlong forms, no surrogates, nothing above U+10FFFF).
+bool isValidUtf8(std::string_view text) noexcept;
+
+}  // namespace tonelake

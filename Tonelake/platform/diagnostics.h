@@ -1,0 +1,22 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+namespace tonelake {
+
+/// Where single diagnostic lines go. Safe to call from any thread.
+class Diagnostics {
+ public:
+  virtual ~Diagnostics() = default;
+  /// `line` without a line break at its end.
+  virtual void write(std::string_view line) = 0;
+};
+
+enum class DiagnosticStream { standardOutput, standardError };
+
+/// Lines on one of the standard streams. Standard output is the library's custom; hosts whose
+/// standard output is an answer choose standard error.
+std::shared_ptr<Diagnostics> makeStreamDiagnostics(DiagnosticStream stream);
+
+}  // namespace tonelake

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "Tonelake/platform/application_information.h"
+#include "Tonelake/platform/calendar.h"
+#include "Tonelake/platform/diagnostics.h"
+#include "Tonelake/platform/notification_center.h"
+#include "Tonelake/platform/random_source.h"
+#include "Tonelake/platform/resource_bundle.h"
+#include "Tonelake/platform/settings_store.h"
+#include "Tonelake/platform/string_table.h"
+
+namespace tonelake {
+
+/// Everything the library asks of its host. A default-made platform is inert: UTC, English,
+/// settings in memory, the compiled-in resources, notifications dropped, diagnostics on standard
+/// output. A host replaces the members it has something better for; none may be null.
+struct Platform {
+  Platform();
+
+  std::shared_ptr<SettingsStore> standardSettings;  ///< generated positions
+  std::shared_ptr<SettingsStore> sharedSettings;    ///< what app and widgets share
+  std::shared_ptr<const Calendar> calendar;
+  ApplicationInformation application;
+  std::shared_ptr<const ResourceBundle> resources;
+  std::shared_ptr<const StringTable> strings;
+  std::shared_ptr<RandomSource> random;
+  std::shared_ptr<NotificationCenter> notifications;
+  std::shared_ptr<Diagnostics> diagnostics;
+  /// Makes the calling thread give way to others; does nothing unless the host knows how.
+  std::function<void()> lowerThreadPriority;
+};
+
+/// Makes `platform` the one that operations without a platform of their own use. Call it once,
+/// before anything else of the library: a second call, or one after first use, is a programming
+/// error.
+void installPlatform(Platform platform);
+
+/// The installed platform, or the inert one. Safe to call from any thread.
+const Platform& processPlatform();
+
+}  // namespace tonelake

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstdint>
+
+namespace tonelake {
+
+/// Uniformly distributed 64-bit numbers. Safe to call from any thread.
+class RandomSource {
+ public:
+  virtual ~RandomSource() = default;
+  virtual std::uint64_t next() = 0;
+};
+
+}  // namespace tonelake

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tonelake {
+
+/// The library's packaged files. Safe to call from any thread.
+class ResourceBundle {
+ public:
+  virtual ~ResourceBundle() = default;
+
+  /// The whole file `name` "." `extension`, for example ("jazz_chords", "json"); nothing when it
+  /// is missing or cannot be read.
+  virtual std::optional<std::string> load(std::string_view name,
+                                          std::string_view extension) const = 0;
+};
+
+/// The files compiled into the library: nothing to find, nothing to install.
+std::shared_ptr<const ResourceBundle> makeEmbeddedResourceBundle();
+
+}  // namespace tonelake

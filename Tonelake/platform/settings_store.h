@@ -1,0 +1,30 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tonelake {
+
+/// A named collection of settings: texts, truth values and data by key. Asking for a key under
+/// another type than it was written with gives nothing. A store that cannot keep a value says so
+/// once, by its own means, and goes on. Implementations are safe to call from any thread.
+class SettingsStore {
+ public:
+  virtual ~SettingsStore() = default;
+
+  virtual std::optional<std::string> text(std::string_view key) const = 0;
+  virtual std::optional<bool> boolean(std::string_view key) const = 0;
+  virtual std::optional<std::string> data(std::string_view key) const = 0;
+
+  virtual void setText(std::string_view key, std::string_view value) = 0;
+  virtual void setBoolean(std::string_view key, bool value) = 0;
+  virtual void setData(std::string_view key, std::string_view value) = 0;
+  virtual void remove(std::string_view key) = 0;
+};
+
+/// A store that lives in memory and is gone with the process.
+std::shared_ptr<SettingsStore> makeMemorySettingsStore();
+
+}  // namespace tonelake

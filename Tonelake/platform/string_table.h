@@ -1,0 +1,22 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace tonelake {
+
+/// The library's translations. Safe to call from any thread.
+class StringTable {
+ public:
+  virtual ~StringTable() = default;
+
+  /// The text for `key` in the current locale; without a translation, the English text. English
+  /// is the key itself but for the few keys that have an English catalogue of their own.
+  virtual std::string localized(std::string_view key) const = 0;
+};
+
+/// The texts in English, without any catalogue file.
+std::shared_ptr<const StringTable> makeEnglishStringTable();
+
+}  // namespace tonelake

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "Tonelake/chords/chord.h"
+#include "Tonelake/platform/calendar.h"
+#include "Tonelake/platform/resource_bundle.h"
+#include "Tonelake/today/chord_category.h"
+
+namespace tonelake {
+
+/// The chord of every day of the year, in three categories. Reads its lists when it is made and
+/// never changes afterwards: any thread may ask. A packaged list that is missing or damaged stops
+/// the process.
+class TodayChordLibrary {
+ public:
+  /// One chord a day, 31 December of a leap year included.
+  static constexpr std::size_t daysInYear = 366;
+
+  /// On the process's platform, or on what it is given.
+  TodayChordLibrary();
+  TodayChordLibrary(const ResourceBundle& resources, std::shared_ptr<const Calendar> calendar);
+
+  const std::vector<Chord> beginnerChords;
+  const std::vector<Chord> advancedChords;
+  const std::vector<Chord> jazzChords;
+
+  /// The chord of the calendar day that holds `date`: entry (day of the year - 1), the same every
+  /// year. Nothing when the calendar cannot place the date. The second form asks another calendar
+  /// than the library's own.
+  std::optional<Chord> chordOfTheDay(Instant date, ChordCategory category) const;
+  std::optional<Chord> chordOfTheDay(Instant date, ChordCategory category,
+                                     const Calendar& calendar) const;
+
+  /// Beginner, then advanced, then jazz: 1098 chords, duplicates kept.
+  std::vector<Chord> getAllChords() const;
+  std::vector<Chord> getJazzChords() const { return jazzChords; }
+
+ private:
+  const std::vector<Chord>& chords(ChordCategory category) const;
+
+  std::shared_ptr<const Calendar> calendar_;
+};
+
+}  // namespace tonelake

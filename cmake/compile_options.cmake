@@ -1,0 +1,12 @@
+# What every target of ours is compiled with: warnings are errors, includes start at the
+# project's root, and the sanitizers of the chosen preset reach every object.
+add_library(zyndle_compile_options INTERFACE)
+target_compile_options(zyndle_compile_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+target_include_directories(zyndle_compile_options INTERFACE ${PROJECT_SOURCE_DIR})
+
+if(ZYNDLE_SANITIZE)
+  target_compile_options(zyndle_compile_options INTERFACE
+    -fsanitize=${ZYNDLE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(zyndle_compile_options INTERFACE -fsanitize=${ZYNDLE_SANITIZE})
+endif()
