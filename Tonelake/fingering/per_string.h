@@ -14,6 +14,7 @@ namespace tonelake {
 class PerString {
  public:
   using Numbers = std::array<std::int8_t, Tuning::stringCount>;
+  using value_type = Numbers::value_type;
   using const_iterator = Numbers::const_iterator;
 
   constexpr PerString() noexcept = default;
