@@ -15,9 +15,10 @@ namespace tonelake {
 
 /// Which of a chord's positions to show. Frets as in ChordPosition::position, empty when absent.
 struct PositionRequest {
-  Chord chord;
-  WholeNumbers selectedPosition;  ///< what the user last chose: found again, or the first position
-  WholeNumbers presetPosition;    ///< found again, or the nearest; all muted counts as absent
+  Chord chord{};
+  WholeNumbers
+      selectedPosition{};         ///< what the user last chose: found again, or the first position
+  WholeNumbers presetPosition{};  ///< found again, or the nearest; all muted counts as absent
   bool usesChordPositionsCache = false;
   TuningNames tuning = Tuning::standard;
 };

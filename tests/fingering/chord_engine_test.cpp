@@ -165,14 +165,14 @@ TEST_F(RememberingEngine, ReturnsStoredShapesAsTheyStand) {
 TEST_F(RememberingEngine, ReplacesDamagedShapes) {
   const auto shapes = generate();
   const std::string good = store->stored;
-  for (const std::string& damaged :
-       std::initializer_list<std::string>{"", "null", good.substr(0, good.size() / 2), good + "]",
-        std::string(R"([{"position":[1,1,1,1,1],"fingering":[]}])"),
-        std::string(R"([{"position":[1,1,1,1,1,1.0],"fingering":[]}])"),
-        std::string(R"([{"position":[1,1,1,1,1,true],"fingering":[]}])"),
-        std::string(R"([{"position":[1,1,1,1,1,1000],"fingering":[]}])"),
-        std::string(R"([{"position":[1,1,1,1,1,1],"fingering":[1]}])"),
-        std::string(R"([{"position":[1,1,1,1,1,1]}])"), std::string("[\"\xFF\"]")}) {
+  for (const std::string& damaged : std::initializer_list<std::string>{
+           "", "null", good.substr(0, good.size() / 2), good + "]",
+           std::string(R"([{"position":[1,1,1,1,1],"fingering":[]}])"),
+           std::string(R"([{"position":[1,1,1,1,1,1.0],"fingering":[]}])"),
+           std::string(R"([{"position":[1,1,1,1,1,true],"fingering":[]}])"),
+           std::string(R"([{"position":[1,1,1,1,1,1000],"fingering":[]}])"),
+           std::string(R"([{"position":[1,1,1,1,1,1],"fingering":[1]}])"),
+           std::string(R"([{"position":[1,1,1,1,1,1]}])"), std::string("[\"\xFF\"]")}) {
     store->stored = damaged;
     EXPECT_EQ(generate(), shapes) << damaged;
     EXPECT_EQ(store->stored, good) << damaged;

@@ -1,0 +1,81 @@
+#include "Tonelake/platform/platform.h"
+
+#include <gtest/gtest.h>
+
+namespace tonelake {
+namespace {
+
+constexpr std::chrono::seconds hour{3600};
+
+TEST(UtcCalendar, AnswersOrSaysNothing) {
+  const auto calendar = makeUtcCalendar();
+  const Instant instant = *calendar->instant({2024, 12, 31, 23, 59, 59});
+  EXPECT_EQ(calendar->ordinalOfDay(instant), 366);
+  EXPECT_EQ(calendar->nextMidnight(instant), instant + std::chrono::seconds(1));
+  EXPECT_EQ(calendar->nextMidnight(instant + std::chrono::seconds(1)),
+            instant + std::chrono::seconds(1) + 24 * hour);
+  EXPECT_EQ(calendar->lastDayOfMonth({2024, 2}), 29);
+  EXPECT_EQ(calendar->lastDayOfMonth({1900, 2}), 28);
+  EXPECT_EQ(calendar->lastDayOfMonth({2024, 13}), std::nullopt);
+  EXPECT_EQ(calendar->instant({2023, 2, 29, 8, 0, 0}), std::nullopt);
+  EXPECT_EQ(calendar->instant({1969, 12, 31, 23, 0, 0}), Instant() - hour);
+}
+
+TEST(UtcCalendar, AddsMonthsAcrossYears) {
+  const auto calendar = makeUtcCalendar();
+  const Instant december = *calendar->instant({2025, 12, 31, 0, 0, 0});
+  struct Row {
+    long long months;
+    std::optional<YearMonth> expected;
+  };
+  const Row rows[] = {{0, {{2025, 12}}},  {1, {{2026, 1}}},        {-12, {{2024, 12}}},
+                      {-23, {{2024, 1}}}, {-2025 * 12, {{0, 12}}}, {INT64_MAX, {}},
+                      {INT64_MIN, {}}};
+  for (const Row& row : rows) {
+    EXPECT_EQ(calendar->month(december, row.months), row.expected) << row.months;
+  }
+  const Instant farOff = Instant::max();
+  EXPECT_EQ(calendar->ordinalOfDay(farOff), std::nullopt);
+  EXPECT_EQ(calendar->nextMidnight(farOff), std::nullopt);
+}
+
+TEST(MemorySettingsStore, KeepsEachTypeApart) {
+  const auto store = makeMemorySettingsStore();
+  store->setText("a", "text");
+  store->setData("b", "data");
+  store->setBoolean("c", true);
+  EXPECT_EQ(store->text("a"), "text");
+  EXPECT_EQ(store->data("a"), std::nullopt);
+  EXPECT_EQ(store->text("b"), std::nullopt);
+  EXPECT_EQ(store->boolean("c"), true);
+  store->setBoolean("a", false);
+  EXPECT_EQ(store->text("a"), std::nullopt);
+  store->remove("a");
+  store->remove("never there");
+  EXPECT_EQ(store->boolean("a"), std::nullopt);
+}
+
+TEST(PlatformDeathTest, IsInstalledOnceBeforeItsFirstUse) {
+  EXPECT_DEATH(
+      {
+        processPlatform();
+        installPlatform(Platform());
+      },
+      "before its first use");
+}
+
+TEST(Platform, IsInertWithoutAHost) {
+  const Platform platform;
+  EXPECT_EQ(platform.calendar->timeZone(), "UTC");
+  EXPECT_EQ(platform.application.version, "0");
+  EXPECT_EQ(platform.strings->localized("Beginner"), "Beginner");
+  EXPECT_EQ(platform.strings->localized("inversion.first"), "First inversion");
+  EXPECT_NE(platform.random->next(), platform.random->next());
+  std::optional<std::string> problem;
+  platform.notifications->add({}, [&](const auto& reported) { problem = reported; });
+  EXPECT_TRUE(problem.has_value());
+  EXPECT_FALSE(platform.resources->load("missing", "json").has_value());
+}
+
+}  // namespace
+}  // namespace tonelake

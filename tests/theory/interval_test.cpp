@@ -1,0 +1,110 @@
+#include "Tonelake/theory/interval.h"
+
+#include <gtest/gtest.h>
+
+#include "Tonelake/theory/note.h"
+#include "Tonelake/theory/note_number.h"
+#include "Tonelake/theory/spelling_tables.h"
+
+namespace tonelake {
+namespace {
+
+TEST(Interval, SpellsByTheLetterOfTheDegree) {
+  struct Row {
+    WholeNumber distance;
+    WholeNumber degree;
+    const char* root;
+    const char* expected;
+  };
+  const Row rows[] = {
+      {4, 3, "C", "E"},       {3, 3, "A", "C"},   {3, 3, "E♭", "G♭"},  {6, 5, "C", "G♭"},
+      {9, 7, "C", "B♭♭"},     {4, 3, "G♯", "B♯"}, {1, 2, "C♭", "D♭♭"}, {4, 3, "D♭", "F"},
+      {4, 3, "C♯", "E♯"},     {21, 13, "C", "A"}, {24, 15, "B", "B"},  {10, 7, "C", "B♭"},
+      {0, 1, "D♭♭♭", "D♭♭♭"}, {0, 0, "D", "C𝄪"},  {7, 3, "C", ""},     {4, 3, "Db", ""},
+      {4, 3, "c", ""},        {4, 3, "", ""},     {-1, 7, "D", "C♯"},  {3, 4000000000, "C", "E♭"},
+  };
+  for (const Row& row : rows) {
+    EXPECT_EQ(Interval::getNoteWithDistance(row.distance, row.degree, row.root), row.expected)
+        << row.distance << " semitones, degree " << row.degree << " above " << row.root;
+  }
+}
+
+TEST(Interval, TellsWhatMayBeAsked) {
+  struct Row {
+    WholeNumber distance;
+    WholeNumber degree;
+    const char* root;
+    bool isSpellable;
+  };
+  const Row rows[] = {
+      {35, 1, "C", true},         {36, 1, "C", false},        {24, 1, "B", true},
+      {25, 1, "B", false},        {-11, 1, "B", true},        {-1, 1, "C", false},
+      {4, 0, "C", false},         {4, 0, "D", true},          {4, -1, "D", false},
+      {4, 3, "Db", true},         {INT64_MAX, 3, "C", false}, {INT64_MIN, 3, "B", false},
+      {4, INT64_MAX, "B", false}, {4, INT64_MIN, "C", false},
+  };
+  for (const Row& row : rows) {
+    EXPECT_EQ(Interval::isSpellable(row.distance, row.degree, row.root), row.isSpellable)
+        << row.distance << " semitones, degree " << row.degree << " above " << row.root;
+  }
+}
+
+TEST(IntervalDeathTest, StopsOutsideTheTables) {
+  EXPECT_DEATH(Interval::getNoteWithDistance(36, 1, "C"), "outside the spelling tables");
+  EXPECT_DEATH(Interval::getNoteWithDistance(4, 0, "C"), "outside the spelling tables");
+}
+
+TEST(Interval, NamesFormulaTokens) {
+  const std::pair<const char*, const char*> rows[] = {{"♭♭7", "Diminished Seventh"},
+                                                      {"♭5", "Diminished Fifth"},
+                                                      {"♭12", "Diminished Twelfth"},
+                                                      {"15", "Double Octave"},
+                                                      {"1", "Unison"},
+                                                      {"♯14", "Augmented Fourteenth"},
+                                                      {"♭4", ""},
+                                                      {"b3", ""},
+                                                      {" 3", ""},
+                                                      {"", ""}};
+  for (const auto& [token, name] : rows) {
+    EXPECT_EQ(Interval::getIntervalFromAlteredScaleDegree(token), name) << token;
+  }
+}
+
+// Every name in the tables is a note of the pitch at which it stands.
+TEST(SpellingTables, AgreeWithTheNotes) {
+  for (const SpellingTable* table : spellingTables) {
+    for (std::size_t i = 0; i < table->size(); ++i) {
+      const auto note = Note::fromRawValue((*table)[i]);
+      ASSERT_TRUE(note.has_value()) << (*table)[i];
+      EXPECT_EQ(note->pitchClass(), static_cast<int>(i % 12)) << (*table)[i];
+      EXPECT_EQ(noteIndexByName().at((*table)[i]), note->pitchClass());
+    }
+  }
+  EXPECT_EQ(noteIndexByName().size(), noteCount);
+}
+
+TEST(NoteNumber, IsSpelledWithSharps) {
+  struct Row {
+    WholeNumber number;
+    std::optional<NoteAndOctave> expected;
+  };
+  const Row rows[] = {{12, {{Note::C, 0}}},
+                      {60, {{Note::C, 4}}},
+                      {69, {{Note::A, 4}}},
+                      {70, {{Note::As, 4}}},
+                      {127, {{Note::G, 9}}},
+                      {128, {}},
+                      {-1, {}},
+                      {INT64_MIN, {}},
+                      {INT64_MAX, {}},
+                      {1099511627776 + 60, {}}};
+  for (const Row& row : rows) EXPECT_EQ(getNote(row.number), row.expected) << row.number;
+}
+
+TEST(NoteNumberDeathTest, StopsBelowTheFirstOctave) {
+  EXPECT_DEATH(getNote(0), "0 to 11");
+  EXPECT_DEATH(getNote(11), "0 to 11");
+}
+
+}  // namespace
+}  // namespace tonelake
