@@ -139,8 +139,7 @@ class PlainSearch {
   static PerString toPerString(const WholeNumbers& list) {
     if (list.empty()) return {};
     PerString::Numbers numbers{};
-    std::transform(list.begin(), list.end(), numbers.begin(),
-                   [](WholeNumber number) { return static_cast<std::int8_t>(number); });
+    for (std::size_t i = 0; i < numbers.size(); ++i) numbers[i] = static_cast<std::int8_t>(list[i]);
     return numbers;
   }
 

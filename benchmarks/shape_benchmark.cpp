@@ -1,0 +1,81 @@
+// How long the shapes of all 833 offered chords take: searched, judged by the plain checker, and
+// read back from a settings store. Times vary with the machine; ratios hold.
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "Tonelake/chords/chord_data_manager.h"
+#include "Tonelake/fingering/chord_engine.h"
+#include "benchmarks/allocation_counter.h"
+#include "benchmarks/measure.h"
+#include "tests/support/plain_shape_checker.h"
+
+namespace {
+
+using namespace tonelake;  // NOLINT(google-build-using-namespace)
+using benchmarks::measure;
+using benchmarks::Timing;
+
+struct OfferedChord {
+  std::string root;
+  WholeNumbers intervals;
+};
+
+std::vector<OfferedChord> offeredChords() {
+  std::vector<OfferedChord> chords;
+  for (const Note root : ChordDataManager::shared().allRootNotes()) {
+    for (const std::string& type : chordTypes()) {
+      chords.push_back({std::string(root.rawValue()), Chords::getChordData(type)->notes});
+    }
+  }
+  return chords;
+}
+
+void print(const char* what, const Timing& timing, std::size_t chords) {
+  std::printf("%-34s %9.2f ms  (least %.2f, most %.2f)  %8.2f µs a chord\n", what, timing.median,
+              timing.least, timing.most, 1000 * timing.median / static_cast<double>(chords));
+}
+
+}  // namespace
+
+int main() {
+  const auto chords = offeredChords();
+  std::size_t shapes = 0;
+  const auto search = [&] {
+    shapes = 0;
+    for (const OfferedChord& chord : chords) {
+      shapes +=
+          ChordEngine::searchChordShapes(chord.root, chord.intervals, -1, Tuning::standard).size();
+    }
+  };
+  const auto judge = [&] {
+    for (const OfferedChord& chord : chords) {
+      testing::generatePlainly(chord.root, chord.intervals, -1, Tuning::standard);
+    }
+  };
+  const Platform platform;
+  const ChordEngine engine(platform);
+  const auto readBack = [&] {
+    for (const OfferedChord& chord : chords) {
+      engine.generateChordShapes(chord.root, chord.intervals, -1, Tuning::standard);
+    }
+  };
+
+  const Timing searched = measure(21, search);
+  const std::size_t before = benchmarks::allocationCount();
+  search();
+  const std::size_t allocations = benchmarks::allocationCount() - before;
+  const Timing stored = measure(21, readBack);
+  const Timing judged = measure(1, judge);
+
+  const auto count = static_cast<double>(chords.size());
+  std::printf("%zu chords in standard tuning, %zu shapes with fingers\n", chords.size(), shapes);
+  print("searched", searched, chords.size());
+  print("read back from a store in memory", stored, chords.size());
+  print("plain checker", judged, chords.size());
+  std::printf("allocations a chord, searched      %9.2f\n",
+              static_cast<double>(allocations) / count);
+  std::printf("plain checker / searched           %9.1f\n", judged.median / searched.median);
+  std::printf("read back / searched               %9.2f\n", stored.median / searched.median);
+}
