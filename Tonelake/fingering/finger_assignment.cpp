@@ -50,7 +50,8 @@ WholeNumbers assignFingers(std::span<const WholeNumber> frets) {
   Frets shape{};
   std::transform(frets.begin(), frets.end(), shape.begin(),
                  [](WholeNumber fret) { return static_cast<std::int8_t>(fret); });
-  if (std::none_of(frets.begin(), frets.end(), [](WholeNumber fret) { return fret > 0; })) return {};
+  if (std::none_of(frets.begin(), frets.end(), [](WholeNumber fret) { return fret > 0; }))
+    return {};
   const auto fingers = findFingers(shape);
   if (fingers) return {fingers->begin(), fingers->end()};
   return WholeNumbers(stringCount, 0);

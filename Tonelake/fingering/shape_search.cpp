@@ -18,7 +18,9 @@
 
 #include "Tonelake/fingering/shape_search.h"
 
-#include <bit>
+#include <algorithm>
+#include <cstdint>
+#include <utility>
 
 #include "Tonelake/fingering/finger_assignment.h"
 #include "Tonelake/fingering/shape_set.h"
@@ -34,6 +36,7 @@ constexpr int stringCount = static_cast<int>(Tuning::stringCount);
 constexpr int namedPitches = 24;
 
 constexpr int highestStart = 12;
+constexpr int narrowestSpan = 2;
 constexpr int widestSpan = 4;
 constexpr int fretCount = highestStart + widestSpan;
 
@@ -41,38 +44,79 @@ constexpr PitchClassSet noteBit(int pitch) {
   return static_cast<PitchClassSet>(1U << static_cast<unsigned>(pitch % 12));
 }
 
-// A fret a string may take and the note it sounds there; no bit for a muted string.
-struct Candidate {
-  std::int8_t fret = mutedString;
-  PitchClassSet note = 0;
+// Frets as bits: bit 0 a muted string, bit n + 1 fret n.
+using FretSet = std::uint32_t;
+
+constexpr FretSet fretBit(int fret) {
+  return 1U << static_cast<unsigned>(fret + 1);
+}
+
+struct Span {
+  int width;
+  int start;
+
+  constexpr FretSet frets() const { return fretBit(start + width) - fretBit(start); }
 };
 
-// What one string offers in a span. Frets are all different.
-struct Candidates {
-  std::array<Candidate, widestSpan + 1> list;
-  int count = 0;
-  int firstOtherThanBass = -1;  // the first that is not the bass note, or -1
+// A string and where it sounds chord notes.
+struct ChordString {
+  FretSet chordFrets = 0;
+  bool ringsOpen = false;  // the open string may stand in for a fret without a chord note
+  std::array<PitchClassSet, fretCount> noteAt{};  // by fret
 
-  void add(Candidate candidate, PitchClassSet bass) {
-    if (candidate.note != bass && firstOtherThanBass < 0) firstOtherThanBass = count;
-    list[static_cast<std::size_t>(count++)] = candidate;
+  // What the string can do in a span, as a set.
+  FretSet offers(Span span) const {
+    const FretSet frets = span.frets();
+    FretSet offered = frets & chordFrets;
+    if (ringsOpen && (frets & ~chordFrets) != 0) offered |= fretBit(openString);
+    return offered != 0 ? offered : fretBit(mutedString);
   }
+};
+
+// A set of the spans searched just before that share combinations with the present one. Shapes
+// made of nothing but what such a span offered were met there.
+using EarlierSpans = std::uint8_t;
+
+constexpr EarlierSpans firstEarlierSpan = 1;
+constexpr EarlierSpans secondEarlierSpan = 2;
+constexpr EarlierSpans bothEarlierSpans = firstEarlierSpan | secondEarlierSpan;
+
+// A fret a string may take, the note it sounds there (no bit for a muted string), and the earlier
+// spans that offered the same.
+struct Candidate {
+  PackedFrets fret;
+  PitchClassSet note;
+  EarlierSpans offeredIn;
+};
+
+// What one string offers in a span, in the order of discovery. Frets are all different.
+struct Candidates {
+  std::array<Candidate, widestSpan> list;
+  int count;
+  int firstOtherThanBass;  // the first that is not the bass note, or -1
 };
 
 class ShapeSearch {
  public:
   explicit ShapeSearch(const ShapeQuery& query)
-      : query_(query), bass_(noteBit(query.bass)), seen_(expectedShapes) {
+      : query_(query),
+        bass_(noteBit(query.bass)),
+        // The limit is looked at after a shape has been added, so that 0 still gives one.
+        limit_(query.limit == -1 ? SIZE_MAX
+                                 : static_cast<std::size_t>(std::max<WholeNumber>(query.limit, 1))),
+        seen_(expectedShapes) {
     main_.reserve(expectedShapes);
+    for (std::size_t i = 0; i < strings_.size(); ++i) {
+      strings_[i] = readString(query.strings[tuningIndex(i)]);
+    }
   }
 
   std::vector<ChordPosition> run() {
-    constexpr int narrowestSpan = 2;
     for (int width = narrowestSpan; width <= widestSpan; ++width) {
       const int lastStart = width == narrowestSpan ? 0 : highestStart;
       for (int start = 0; start <= lastStart; ++start) {
-        searchSpan(width, start);
-        if (isFull()) return std::move(main_);
+        searchSpan({width, start});
+        if (isFull_) return std::move(main_);
       }
     }
     main_.insert(main_.end(), secondary_.begin(), secondary_.end());
@@ -80,123 +124,155 @@ class ShapeSearch {
   }
 
  private:
-  // A combination while it grows from the highest string downwards.
+  // A combination while it grows from the highest string downwards. Small enough for registers.
   struct Partial {
-    Frets frets{};            // lowest string first, as in the result
-    PitchClassSet notes = 0;  // sounding so far
-    // The lowest string so far that sounds the bass note (-1: none), the notes sounding from there
-    // upwards, and whether every string below it took its first candidate other than the bass.
-    // The bass rule mutes those strings, so their other candidates would give the same shape.
-    int bassString = -1;
-    PitchClassSet notesAboveBass = 0;
-    bool isFirstBelowBass = true;
+    PackedFrets frets = 0;
+    PitchClassSet notes = 0;     // sounding so far
+    EarlierSpans offeredIn = 0;  // those that offered everything so far
+    std::int8_t bassString = 0;  // the lowest string so far that sounds the bass note
+    // Whether this is a new complete shape once all strings below the bass are muted: it sounds
+    // every required note from there upwards, and the strings below took their first candidate
+    // other than the bass. The others would be muted as well and give the same shape again.
+    bool isSettled = false;
   };
 
-  static constexpr std::size_t expectedShapes = 256;
+  // What the strings from one downwards can still do for a combination.
+  struct Outlook {
+    PitchClassSet notes = 0;                  // notes that some candidate sounds
+    EarlierSpans staying = bothEarlierSpans;  // earlier spans that offered every candidate
+  };
 
-  void searchSpan(int width, int start) {
-    for (int string = 0; string < stringCount; ++string) collectCandidates(string, width, start);
-    // Notes and bass notes that the strings from here downwards could still add.
-    reachable_[stringCount] = 0;
-    for (int string = stringCount - 1; string >= 0; --string) {
-      const auto i = static_cast<std::size_t>(string);
-      reachable_[i] = reachable_[i + 1];
-      for (int c = 0; c < candidates_[i].count; ++c) {
-        reachable_[i] |= candidates_[i].list[static_cast<std::size_t>(c)].note;
-      }
+  static constexpr std::size_t expectedShapes = 128;
+
+  // Where the string that the search counts as `string` stands in a tuning, lowest first.
+  static constexpr std::size_t tuningIndex(std::size_t string) { return stringCount - 1 - string; }
+
+  ChordString readString(const OpenString& open) const {
+    ChordString string;
+    string.ringsOpen = open.isNamedLikeChordNotes && isChordNote(open.pitchClass);
+    for (int fret = 0; fret < fretCount && open.pitchClass + fret < namedPitches; ++fret) {
+      string.noteAt[static_cast<std::size_t>(fret)] = noteBit(open.pitchClass + fret);
+      if (isChordNote(open.pitchClass + fret)) string.chordFrets |= fretBit(fret);
     }
-    if (holdsRequired(reachable_[0])) extend<0>(Partial());
+    return string;
   }
 
-  // Every fret of the span that sounds a chord note; the open string in place of one that does
-  // not; muted when there is neither. The first time a fret is met counts.
-  void collectCandidates(int string, int width, int start) {
-    const OpenString& open = query_.strings[static_cast<std::size_t>(stringCount - 1 - string)];
-    const bool ringsOpen = open.isNamedLikeChordNotes && isChordNote(open.pitchClass);
-    Candidates candidates;
-    bool hasOpen = false;
-    for (int fret = start; fret < start + width; ++fret) {
-      const int pitch = open.pitchClass + fret;
-      if (pitch < namedPitches && isChordNote(pitch)) {
-        if (fret == openString) hasOpen = true;
-        candidates.add({static_cast<std::int8_t>(fret), noteBit(pitch)}, bass_);
-      } else if (ringsOpen && !hasOpen) {
-        hasOpen = true;
-        candidates.add({openString, noteBit(open.pitchClass)}, bass_);
+  void searchSpan(Span span) {
+    const std::array<Span, 2> earlier = spansBefore(span);
+    for (std::size_t i = stringCount; i-- > 0;) {
+      collectCandidates(i, span, earlier);
+      outlooks_[i] = outlooks_[i + 1];
+      for (int c = 0; c < candidates_[i].count; ++c) {
+        const Candidate& candidate = candidates_[i].list[static_cast<std::size_t>(c)];
+        outlooks_[i].notes |= candidate.note;
+        outlooks_[i].staying &= candidate.offeredIn;
       }
     }
-    if (candidates.count == 0) candidates.add({}, bass_);
-    candidates_[static_cast<std::size_t>(string)] = candidates;
+    Partial nothing;
+    nothing.offeredIn = bothEarlierSpans;
+    if (isPromising(nothing, outlooks_[0])) extend<0>(nothing);
+  }
+
+  // The spans whose combinations `span` repeats most. Where there is only one it stands twice,
+  // and before the first span of all stands an empty one.
+  static std::array<Span, 2> spansBefore(Span span) {
+    if (span.width == narrowestSpan) return {{{0, 0}, {0, 0}}};
+    const Span narrower{span.width - 1, span.start};
+    if (span.width == widestSpan) {
+      return {{narrower, {narrower.width, std::min(span.start + 1, highestStart)}}};
+    }
+    const Span previous{span.width, span.start - 1};
+    return span.start == 0 ? std::array<Span, 2>{{narrower, narrower}}
+                           : std::array<Span, 2>{{previous, previous}};
+  }
+
+  // Every fret of the span that sounds a chord note; the open string in place of the first that
+  // does not; muted when there is neither.
+  void collectCandidates(std::size_t string, Span span, const std::array<Span, 2>& earlier) {
+    const ChordString& notes = strings_[string];
+    const FretSet first = earlier[0].width == 0 ? 0 : notes.offers(earlier[0]);
+    const FretSet second = earlier[1].width == 0 ? 0 : notes.offers(earlier[1]);
+    Candidates& candidates = candidates_[string];
+    candidates.count = 0;
+    candidates.firstOtherThanBass = -1;
+    FretSet added = 0;
+    const auto add = [&](int fret, FretSet bit, PitchClassSet note) {
+      if ((added & bit) != 0) return;
+      added |= bit;
+      if (note != bass_ && candidates.firstOtherThanBass < 0) {
+        candidates.firstOtherThanBass = candidates.count;
+      }
+      const EarlierSpans inFirst = (first & bit) != 0 ? firstEarlierSpan : 0;
+      const EarlierSpans inSecond = (second & bit) != 0 ? secondEarlierSpan : 0;
+      candidates.list[static_cast<std::size_t>(candidates.count++)] = {
+          packFret(tuningIndex(string), fret), note, static_cast<EarlierSpans>(inFirst | inSecond)};
+    };
+    FretSet bit = fretBit(span.start);
+    for (int fret = span.start; fret < span.start + span.width; ++fret, bit <<= 1U) {
+      if ((notes.chordFrets & bit) != 0) {
+        add(fret, bit, notes.noteAt[static_cast<std::size_t>(fret)]);
+      } else if (notes.ringsOpen) {
+        add(openString, fretBit(openString), notes.noteAt[openString]);
+      }
+    }
+    if (candidates.count == 0) add(mutedString, fretBit(mutedString), 0);
   }
 
   bool isChordNote(int pitch) const { return (query_.chordNotes & noteBit(pitch)) != 0; }
 
   bool holdsRequired(PitchClassSet notes) const { return (query_.requiredNotes & ~notes) == 0; }
 
-  bool isFull() const {
-    return query_.limit != -1 && !main_.empty() &&
-           static_cast<WholeNumber>(main_.size()) >= query_.limit;
-  }
-
   // Extends a combination by each candidate of `string` in turn; complete ones are judged.
   template <int string>
-  void extend(const Partial& partial) {
+  void extend(const Partial partial) {
     if constexpr (string == stringCount) {
-      judge(partial);
+      if (partial.isSettled) judge(partial);
     } else {
       const Candidates& candidates = candidates_[string];
       for (int c = 0; c < candidates.count; ++c) {
         const Candidate candidate = candidates.list[static_cast<std::size_t>(c)];
         Partial longer = partial;
-        longer.frets[stringCount - 1 - string] = candidate.fret;
+        longer.frets |= candidate.fret;
         longer.notes |= candidate.note;
+        longer.offeredIn &= candidate.offeredIn;
         if (string > 0 && candidate.note == bass_) {
           // String 0 is never the bass: a root on the highest string alone is no chord.
           longer.bassString = string;
-          longer.notesAboveBass = longer.notes;
-          longer.isFirstBelowBass = true;
+          longer.isSettled = holdsRequired(longer.notes);
         } else if (c != candidates.firstOtherThanBass) {
-          longer.isFirstBelowBass = false;
+          longer.isSettled = false;
         }
-        if (isPromising(longer, reachable_[string + 1])) extend<string + 1>(longer);
-        if (isFull()) return;
+        if (isPromising(longer, outlooks_[string + 1])) extend<string + 1>(longer);
+        if (isFull_) return;
       }
     }
   }
 
-  // Whether the strings below, which can sound `reachable`, can make this a new complete shape:
-  // by a deeper bass, or by falling silent under the one there is.
-  bool isPromising(const Partial& partial, PitchClassSet reachable) const {
-    if (isSettled(partial)) return true;
-    return (reachable & bass_) != 0 &&
-           holdsRequired(static_cast<PitchClassSet>(partial.notes | reachable));
+  // Whether the strings below can make this a new complete shape: one that no earlier span
+  // offered, with a deeper bass or with those strings silent under the bass there is.
+  bool isPromising(const Partial partial, const Outlook below) const {
+    if ((partial.offeredIn & below.staying) != 0) return false;
+    return partial.isSettled ||
+           ((below.notes & bass_) != 0 &&
+            holdsRequired(static_cast<PitchClassSet>(partial.notes | below.notes)));
   }
 
-  // Bass rule and completeness in one: what sounds from the bass string upwards is complete, and
-  // no earlier combination gave the same shape.
-  bool isSettled(const Partial& partial) const {
-    return partial.bassString >= 0 && partial.isFirstBelowBass &&
-           holdsRequired(partial.notesAboveBass);
-  }
-
-  void judge(const Partial& partial) {
-    if (!isSettled(partial)) return;
-    const Frets frets = applyBassRule(partial);
-    if (!seen_.insert(frets)) return;
+  void judge(const Partial partial) {
+    const PackedFrets packed = applyBassRule(partial);
+    if (!seen_.insert(packed)) return;
+    const Frets frets = unpackFrets(packed);
     const auto fingers = findFingers(frets);
     if (!fingers) return;
     const bool isPressed = *fingers != Fingers{};
     (isSecondary(frets) ? secondary_ : main_)
         .push_back({frets, isPressed ? PerString(*fingers) : PerString()});
+    isFull_ = main_.size() >= limit_;
   }
 
-  // Mutes every string below the bass.
-  static Frets applyBassRule(const Partial& partial) {
-    Frets frets = partial.frets;
-    for (int below = 0; below < stringCount - 1 - partial.bassString; ++below) {
-      frets[static_cast<std::size_t>(below)] = mutedString;
-    }
-    return frets;
+  // Mutes every string below the bass: muted is 0 when packed.
+  static PackedFrets applyBassRule(const Partial partial) {
+    const std::size_t mutedStrings = tuningIndex(static_cast<std::size_t>(partial.bassString));
+    return partial.frets >> (bitsPerString * mutedStrings) << (bitsPerString * mutedStrings);
   }
 
   // Shapes that mute one of the four highest strings come second, and so do those that mute the
@@ -209,11 +285,14 @@ class ShapeSearch {
 
   const ShapeQuery& query_;
   const PitchClassSet bass_;
+  const std::size_t limit_;
+  std::array<ChordString, stringCount> strings_;
   std::array<Candidates, stringCount> candidates_;
-  std::array<PitchClassSet, stringCount + 1> reachable_{};
+  std::array<Outlook, stringCount + 1> outlooks_{};
   ShapeSet seen_;
   std::vector<ChordPosition> main_;
   std::vector<ChordPosition> secondary_;
+  bool isFull_ = false;  // the limit is reached: stop at once
 };
 
 }  // namespace

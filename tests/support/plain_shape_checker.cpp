@@ -82,6 +82,29 @@ std::vector<Combination> combine(const std::vector<std::vector<Candidate>>& stri
   return combinations;
 }
 
+std::string textOf(const Combination& combination) {
+  std::string names;
+  std::string frets;
+  for (std::size_t i = 0; i < combination.frets.size(); ++i) {
+    const char* separator = i > 0 ? "," : "";
+    names += separator + combination.names[i];
+    frets += separator + std::to_string(combination.frets[i]);
+  }
+  return names + "|" + frets;
+}
+
+// Drops combinations that are all muted and those that are written like an earlier one.
+std::vector<Combination> withoutRepetitions(const std::vector<Combination>& combinations) {
+  std::set<std::string> met;
+  std::vector<Combination> kept;
+  for (const Combination& combination : combinations) {
+    const bool sounds = std::any_of(combination.names.begin(), combination.names.end(),
+                                    [](const std::string& name) { return name != "-1"; });
+    if (sounds && met.insert(textOf(combination)).second) kept.push_back(combination);
+  }
+  return kept;
+}
+
 bool applyBassRule(Combination& combination, const std::string& bass) {
   for (std::size_t string = 5; string >= 1; --string) {
     if (combination.names[string] == bass) return true;
@@ -107,7 +130,7 @@ class PlainSearch {
     for (std::size_t k = 0; k < 6; ++k) {
       strings.push_back(candidatesOf(highestFirst[k], openIndexes[k], width, start, chordNotes_));
     }
-    for (Combination& combination : combine(strings)) {
+    for (Combination combination : withoutRepetitions(combine(strings))) {
       if (judge(combination)) return true;
     }
     return false;
