@@ -1,60 +1,131 @@
 #include "Tonelake/fingering/finger_assignment.h"
 
 #include <algorithm>
+#include <array>
+#include <atomic>
+#include <limits>
+
+#include "Tonelake/fingering/finger_search.h"
 
 namespace tonelake {
 namespace {
 
-constexpr int stringCount = Tuning::stringCount;
+// For the hand a string is muted, open, or pressed 0 to 3 frets above the lowest pressed fret. One
+// digit a string makes a number of the shape.
+constexpr int firstPressedDigit = 2;
+constexpr std::size_t digitCount = firstPressedDigit + handFrets;
+constexpr std::size_t shapeCount =
+    digitCount * digitCount * digitCount * digitCount * digitCount * digitCount;
 
-// One finger on one fret, fingers not falling as frets rise, nothing open, muted or lower between
-// two strings of one finger, and sharing above the lowest fret only by neighbours.
-bool isAllowed(const Frets& frets, const Fingers& fingers, int lowest) {
-  for (std::size_t a = 0; a < frets.size(); ++a) {
-    for (std::size_t b = 0; b < frets.size(); ++b) {
-      if (fingers[a] == 0 || fingers[b] == 0 || a == b) continue;
-      if (frets[a] < frets[b] && fingers[a] >= fingers[b]) return false;
-      if (frets[a] == frets[b] && fingers[a] == fingers[b] && a < b) {
-        for (std::size_t i = a + 1; i < b; ++i) {
-          if (frets[i] < frets[a] || (frets[a] > lowest && fingers[i] != fingers[a])) return false;
-        }
-      }
-    }
-  }
-  return true;
+// The fingers of a shape in one small number: two bits a string hold its finger less one, and the
+// frets tell which strings have a finger at all.
+using PackedFingers = std::uint16_t;
+constexpr PackedFingers notSearchedYet = 0;
+constexpr PackedFingers heldByNobody = 1U << 12U;
+constexpr PackedFingers held = 1U << 13U;
+constexpr unsigned bitsPerString = 2;
+
+// A search for shapes meets the same few thousand over and over, so each is worked out once in a
+// process. Whichever threads meet one first all store the same number: no order is needed.
+using RememberedFingers = std::array<std::atomic<PackedFingers>, shapeCount>;
+constinit std::array<RememberedFingers, 2> remembered{};  // by FingerRules::barreMayCoverMuted
+
+int lowestPressed(const Frets& frets) {
+  int lowest = std::numeric_limits<std::int8_t>::max();
+  for (const int fret : frets) lowest = fret > 0 && fret < lowest ? fret : lowest;
+  return lowest;
 }
 
-bool assign(const Frets& frets, Fingers& fingers, int lowest, std::size_t string) {
-  if (string == frets.size()) return isAllowed(frets, fingers, lowest);
-  if (frets[string] <= 0) return assign(frets, fingers, lowest, string + 1);
-  for (std::int8_t finger = 1; finger <= 4; ++finger) {
-    fingers[string] = finger;
-    if (assign(frets, fingers, lowest, string + 1)) return true;
+std::size_t numberOfShape(const Frets& frets, int lowest) {
+  std::size_t number = 0;
+  for (const int fret : frets) {
+    const int digit = fret > 0 ? fret - lowest + firstPressedDigit : std::max(fret + 1, 0);
+    number = number * digitCount + static_cast<std::size_t>(digit);
   }
-  return false;
+  return number;
+}
+
+PressedStrings pressedStrings(const Frets& frets, int lowest) {
+  PressedStrings shape;
+  StringSet string = 1;
+  for (const int fret : frets) {
+    if (fret < openString) shape.muted |= string;
+    if (fret == openString) shape.open |= string;
+    if (fret > openString && fret - lowest < handFrets) {
+      shape.onFret[static_cast<std::size_t>(fret - lowest)] |= string;
+    }
+    string <<= 1U;
+  }
+  return shape;
+}
+
+PackedFingers pack(const std::optional<Fingers>& fingers) {
+  if (!fingers) return heldByNobody;
+  unsigned packed = 0;
+  for (std::size_t string = 0; string < fingers->size(); ++string) {
+    const int finger = (*fingers)[string];
+    if (finger > 0) packed |= static_cast<unsigned>(finger - 1) << bitsPerString * string;
+  }
+  return static_cast<PackedFingers>(packed | held);
+}
+
+Fingers unpack(PackedFingers packed, const Frets& frets) {
+  Fingers fingers{};
+  for (std::size_t string = 0; string < frets.size(); ++string) {
+    const unsigned finger = (packed >> bitsPerString * string & 3U) + 1;
+    fingers[string] = static_cast<std::int8_t>(frets[string] > 0 ? finger : 0);
+  }
+  return fingers;
+}
+
+// The fingers of the largest part of a shape that a hand can hold, from the lowest fret up.
+Fingers fingersForPart(PressedStrings shape) {
+  auto fingers = searchFingers(shape, {});
+  for (int fret = handFrets - 1; !fingers; fingers = searchFingers(shape, {})) {
+    while (shape.at(fret) == 0) --fret;
+    StringSet& strings = shape.onFret[static_cast<std::size_t>(fret)];
+    strings = withoutHighest(strings);
+  }
+  return *fingers;
 }
 
 }  // namespace
 
-std::optional<Fingers> findFingers(const Frets& frets) noexcept {
-  int lowest = 0;
-  for (const int fret : frets) {
-    if (fret > 0) lowest = lowest == 0 ? fret : std::min(lowest, fret);
+std::optional<Fingers> findFingers(const Frets& frets, FingerRules rules) noexcept {
+  const int lowest = lowestPressed(frets);
+  const int highest = *std::max_element(frets.begin(), frets.end());
+  if (highest - lowest >= handFrets) return std::nullopt;
+
+  auto& remember = remembered[rules.barreMayCoverMuted ? 1 : 0][numberOfShape(frets, lowest)];
+  PackedFingers packed = remember.load(std::memory_order_relaxed);
+  if (packed == notSearchedYet) {
+    packed = pack(searchFingers(pressedStrings(frets, lowest), rules));
+    remember.store(packed, std::memory_order_relaxed);
   }
-  Fingers fingers{};
-  return assign(frets, fingers, lowest, 0) ? std::optional(fingers) : std::nullopt;
+  if (packed == heldByNobody) return std::nullopt;
+  return unpack(packed, frets);
 }
 
 WholeNumbers assignFingers(std::span<const WholeNumber> frets) {
-  if (frets.size() != stringCount) return {};
+  if (frets.size() != Tuning::stringCount) return {};
+  WholeNumber lowest = std::numeric_limits<WholeNumber>::max();
+  for (const WholeNumber fret : frets) {
+    if (fret > 0) lowest = std::min(lowest, fret);
+  }
+  // Counted from the lowest pressed fret, every fret beyond the hand is as good as the first.
   Frets shape{};
-  std::transform(frets.begin(), frets.end(), shape.begin(),
-                 [](WholeNumber fret) { return static_cast<std::int8_t>(fret); });
-  if (std::none_of(frets.begin(), frets.end(), [](WholeNumber fret) { return fret > 0; }))
-    return {};
+  bool isPressed = false;
+  for (std::size_t string = 0; string < shape.size(); ++string) {
+    const WholeNumber fret = frets[string];
+    isPressed = isPressed || fret > 0;
+    const WholeNumber seen = fret > 0 ? std::min<WholeNumber>(fret - lowest, handFrets) + 1
+                                      : std::max<WholeNumber>(fret, mutedString);
+    shape[string] = static_cast<std::int8_t>(seen);
+  }
+  if (!isPressed) return {};
   const auto fingers = findFingers(shape);
-  if (fingers) return {fingers->begin(), fingers->end()};
-  return WholeNumbers(stringCount, 0);
+  const Fingers result = fingers ? *fingers : fingersForPart(pressedStrings(shape, 1));
+  return {result.begin(), result.end()};
 }
 
 }  // namespace tonelake

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <optional>
+
+#include "Tonelake/fingering/finger_rules.h"
+#include "Tonelake/theory/frets.h"
+
+namespace tonelake {
+
+/// The most comfortable of all assignments that the rules allow; nothing when they allow none.
+/// Tries them all, which takes some hundred nanoseconds.
+std::optional<Fingers> searchFingers(const PressedStrings& shape, FingerRules rules) noexcept;
+
+}  // namespace tonelake
