@@ -122,7 +122,8 @@ class ShippedList : public ::testing::TestWithParam<ChordCategory> {
 
 INSTANTIATE_TEST_SUITE_P(Lists, ShippedList,
                          ::testing::ValuesIn(ChordCategory::allCases().begin(),
-                                             ChordCategory::allCases().end()));
+                                             ChordCategory::allCases().end()),
+                         [](const auto& list) { return std::string(list.param.rawValue()); });
 
 TEST_P(ShippedList, OffersPlayableChordsInRootPosition) {
   const auto roots = ChordDataManager::shared().allRootNotes();
