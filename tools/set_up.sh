@@ -12,7 +12,7 @@ root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
     g++ cmake ninja-build
     libcli11-dev libfmt-dev libhowardhinnant-date-dev libpugixml-dev libsqlite3-dev
     nlohmann-json3-dev tzdata)
-  test_packages=(clang-format libbenchmark-dev libgmock-dev libgtest-dev)
+  test_packages=(clang-format libgmock-dev libgtest-dev)
   check_packages=(clang-tidy shellcheck)
 }
 
