@@ -98,7 +98,9 @@ std::vector<std::string> alternateTitlesOf(const NamedChord& chord) {
     const std::string root = spelling.write(chord.root.rawValue());
     const std::string suffix = bass.empty() ? "" : "/" + spelling.write(bass);
     for (const std::string& name : names) {
-      std::string title = root + name + suffix;
+      std::string title = root;
+      title += name;
+      title += suffix;
       if (!contains(titles, title)) titles.push_back(std::move(title));
     }
   }

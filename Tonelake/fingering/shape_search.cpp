@@ -41,7 +41,7 @@ constexpr int widestSpan = 4;
 constexpr int fretCount = highestStart + widestSpan;
 
 constexpr PitchClassSet noteBit(int pitch) {
-  return static_cast<PitchClassSet>(1U << static_cast<unsigned>(pitch % 12));
+  return static_cast<PitchClassSet>(1U << static_cast<unsigned>(pitch) % 12);
 }
 
 // Frets as bits: bit 0 a muted string, bit n + 1 fret n.

@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# ./zyndle.sh ARGUMENT...: runs zyndle from this folder, after installing and building what that
+# takes. Standard output and the exit status are the command's own.
+set -euo pipefail
+# shellcheck source=tools/set_up.sh
+source "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/tools/set_up.sh"
+
+program=$root/build/release/zyndle/zyndle
+stamp=$root/build/release/up-to-date
+
+# What the program is made of. Folders count too: their time changes when a file is added or
+# removed.
+sources=(CMakeLists.txt CMakePresets.json cmake tools/set_up.sh
+  Tonelake TodayChordExtension Desktop zyndle)
+
+# One pass over the tree instead of dpkg, cmake and ninja: most calls find nothing to do, and they
+# should cost nothing.
+is_up_to_date() {
+  [[ -x $program && -f $stamp ]] || return 1
+  [[ -z $(find "${sources[@]/#/$root/}" -newer "$stamp" -print -quit) ]]
+}
+
+bring_up_to_date() (
+  lock_build_folder
+  ! is_up_to_date || return 0
+  install_packages "${zyndle_packages[@]}"
+  # The stamp bears the time before the build, so that a file saved meanwhile counts as newer.
+  touch "$root/build/started"
+  [[ -x $program ]] || say "building zyndle, which takes a few minutes the first time"
+  build release zyndle
+  mv "$root/build/started" "$stamp"
+)
+
+is_up_to_date || bring_up_to_date
+exec "$program" "$@"
