@@ -1,6 +1,5 @@
-// Which finger goes where, worked through for A major as a barre on the second fret and above,
-// (x,2,4,4,4,2), seen from its lowest pressed fret: strings 1 and 5 at fret 0; 2, 3 and 4 at
-// fret 2.
+// Which finger goes where, worked through for B major as a barre, (x,2,4,4,4,2), seen from its
+// lowest pressed fret: strings 1 and 5 at fret 0; 2, 3 and 4 at fret 2.
 //
 // Fingers are put down one after another. The index finger takes the strings 1 and 5 as a barre, or
 // string 1 alone. The next finger, whichever it is, takes the strings 2 to 4, or 2 and 3, or 2
