@@ -6,8 +6,10 @@
 #include <string_view>
 
 #include "Desktop/ascii_text.h"
+#include "Desktop/board_characters.h"
 #include "Desktop/character_canvas.h"
 #include "TodayChordExtension/diagram/diagram_layout.h"
+#include "TodayChordExtension/diagram/diagram_places.h"
 #include "Tonelake/foundation/text.h"
 
 namespace desktop {
@@ -25,43 +27,6 @@ constexpr int tightPitch = 2;      // columns from string to string
 constexpr int linesPerFret = 2;    // its row and the line below it
 constexpr int columnsBetween = 3;  // between diagrams side by side
 constexpr int marksAndTopEdge = 2;
-
-// A horizontal line of the board: its left end, between strings, on a string, its right end.
-struct Edge {
-  std::string_view left;
-  std::string_view between;
-  std::string_view crossing;
-  std::string_view right;
-};
-
-struct Characters {
-  Edge nut;
-  Edge top;
-  Edge fret;
-  Edge bottom;
-  std::string_view string;
-  std::string_view barre;
-  std::string_view dot;
-  std::string_view open;
-  std::string_view muted;
-  std::string_view ellipsis;
-};
-
-// clang-format off
-constexpr Characters boxCharacters{
-    {"╒", "═", "╤", "╕"},
-    {"┌", "─", "┬", "┐"},
-    {"├", "─", "┼", "┤"},
-    {"└", "─", "┴", "┘"},
-    "│", "━", "●", "○", "×", "…"};
-
-constexpr Characters asciiCharacters{
-    {"=", "=", "=", "="},
-    {"+", "-", "+", "+"},
-    {"|", "-", "+", "|"},
-    {"+", "-", "+", "+"},
-    "|", "=", "*", "o", "x", "..."};
-// clang-format on
 
 std::string write(const std::string& text, const TerminalStyle& style) {
   return style.ascii ? toAscii(text) : text;
@@ -101,7 +66,7 @@ class DiagramDrawing {
       : diagram_(diagram),
         view_(diagram.view),
         style_(style),
-        characters_(style.ascii ? asciiCharacters : boxCharacters),
+        characters_(style.ascii ? asciiBoard : boxBoard),
         layout_(layOut(diagram.view)),
         pitch_(stringPitch(layout_, style)),
         firstString_(view_.isLeftHanded ? 0 : besideColumns),
@@ -126,10 +91,6 @@ class DiagramDrawing {
   int topEdge() const { return firstLine_ + 1; }
   int rowLine(int row) const { return topEdge() + 1 + linesPerFret * (row - 1); }
 
-  static bool isOnBoard(int string, WholeNumber row) {
-    return string < metrics::stringCount && row >= 1 && row <= metrics::fretRows;
-  }
-
   // Over the middle of the board, as far as there is room.
   void drawCaption() {
     std::string caption = write(diagram_.caption, style_);
@@ -145,7 +106,7 @@ class DiagramDrawing {
     canvas_.draw(std::clamp(middle - length(caption) / 2, 0, room), 0, caption, Ink::title);
   }
 
-  void drawEdge(int line, const Edge& edge) {
+  void drawEdge(int line, const BoardEdge& edge) {
     const int last = metrics::stringCount - 1;
     canvas_.fill(column(0), column(last), line, edge.between);
     for (int string = 1; string < last; ++string) canvas_.draw(column(string), line, edge.crossing);
@@ -182,7 +143,7 @@ class DiagramDrawing {
 
   void drawBarres() {
     for (const todaychord::BarreSegment& barre : layout_.barres) {
-      if (!isOnBoard(barre.endStringIndex, barre.fret)) continue;
+      if (!todaychord::isOnBoard(barre.endStringIndex, barre.fret)) continue;
       canvas_.fill(column(barre.startStringIndex), column(barre.endStringIndex),
                    rowLine(static_cast<int>(barre.fret)), characters_.barre, Ink::marker);
     }
@@ -191,7 +152,7 @@ class DiagramDrawing {
   void drawDots() {
     for (const todaychord::FingerDot& dot : layout_.dots) {
       const WholeNumber row = layout_.displayedFrets[static_cast<std::size_t>(dot.stringIndex)];
-      if (!isOnBoard(dot.stringIndex, row)) continue;
+      if (!todaychord::isOnBoard(dot.stringIndex, row)) continue;
       const bool hasNumber = view_.displayFingering && dot.finger >= 1 && dot.finger <= 4;
       canvas_.draw(column(dot.stringIndex), rowLine(static_cast<int>(row)),
                    hasNumber ? std::to_string(dot.finger) : std::string(characters_.dot),
@@ -209,7 +170,7 @@ class DiagramDrawing {
   const CaptionedDiagram& diagram_;
   const ChordView& view_;
   const TerminalStyle& style_;
-  const Characters& characters_;
+  const BoardCharacters& characters_;
   DiagramLayout layout_;
   int pitch_;
   int firstString_;

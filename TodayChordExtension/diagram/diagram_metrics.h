@@ -17,6 +17,7 @@ inline constexpr int highestFretAtNut = 4;  // shapes up to here are drawn from 
 // Strings and rows, in view space.
 inline constexpr double firstStringX = 33;
 inline constexpr double stringPitch = 14;
+inline constexpr double boardMiddleX = firstStringX + stringPitch * (stringCount - 1) / 2;  // 68
 inline constexpr double rowPitch = 23;
 inline constexpr double rowCentre = 19.5;  // middle of row k is rowPitch * k + rowCentre
 
@@ -89,7 +90,7 @@ inline constexpr double cardTitleFontSize = 20;
 inline constexpr double cardTitleBaseline = 32;
 inline constexpr double cardTonesFontSize = 9.5;
 inline constexpr double cardTonesBaseline = 47.5;
-inline constexpr double cardDiagramX = cardWidth / 2 - 68;  // the board's middle is at 68
+inline constexpr double cardDiagramX = cardWidth / 2 - boardMiddleX;
 inline constexpr double cardDiagramY = 46;
 inline constexpr double cardBottom = 8;
 

@@ -7,6 +7,7 @@
 #include "TodayChordExtension/diagram/diagram_layout.h"
 #include "TodayChordExtension/diagram/diagram_markers.h"
 #include "TodayChordExtension/diagram/fingering_instructions.h"
+#include "TodayChordExtension/diagram/scene_placement.h"
 #include "TodayChordExtension/diagram/scene_shapes.h"
 #include "TodayChordExtension/diagram/text_width.h"
 #include "Tonelake/chords/chord_naming.h"
@@ -70,13 +71,14 @@ Scene drawDiagramCard(const ChordView& view, const std::string& title, double wi
                       const Paint& background) {
   const double height = metrics::cardDiagramY + diagramHeight(view) + metrics::cardBottom;
   const std::string tones = tonelake::join(tonelake::Chords::getNotesOfChord(view.chord), " · ");
-  SceneItems items{{PathItem{roundedRectangle({0, 0, metrics::cardWidth, height},
-                                              CornerRadii::all(metrics::cardRadius)),
-                             background}},
-                   {cardText(title, {view.font.name, metrics::cardTitleFontSize},
-                             metrics::cardTitleBaseline, palette::cardTitle)},
-                   {cardText(tones, {view.font.name, metrics::cardTonesFontSize},
-                             metrics::cardTonesBaseline, palette::accent)}};
+  SceneItems items{{PathItem{
+      roundedRectangle({0, 0, metrics::cardWidth, height}, CornerRadii::all(metrics::cardRadius)),
+      background}}};
+  const auto addText = [&](const std::string& text, double size, double y, const Color& color) {
+    if (!text.empty()) items.push_back({cardText(text, {view.font.name, size}, y, color)});
+  };
+  addText(title, metrics::cardTitleFontSize, metrics::cardTitleBaseline, palette::cardTitle);
+  addText(tones, metrics::cardTonesFontSize, metrics::cardTonesBaseline, palette::accent);
   const Scene diagram = drawDiagram(view, metrics::designWidth);
   for (SceneItem& item : placed(diagram.items, {{metrics::cardDiagramX, metrics::cardDiagramY}})) {
     items.push_back(std::move(item));

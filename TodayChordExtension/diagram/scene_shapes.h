@@ -4,7 +4,7 @@
 
 namespace todaychord {
 
-// Paths of common shapes, and copies of whole pictures elsewhere and in another size.
+// Paths of common shapes.
 
 struct CornerRadii {
   double topLeft = 0;
@@ -22,15 +22,5 @@ Path circle(Point centre, double radius);
 /// A rectangle with rounded corners. No radius exceeds half the width; where two do not fit one
 /// above the other, the lower one gives way: radii 8 and 4.5 become 8 and 2 in a height of 10.
 Path roundedRectangle(const Rectangle& frame, const CornerRadii& radii);
-
-/// Where a picture's origin goes and how much it grows: a length l becomes scale * l, the point
-/// (x, y) becomes origin + scale * (x, y).
-struct Placement {
-  Point origin;
-  double scale = 1;
-};
-
-/// A copy of `items` elsewhere and in another size, fonts and strokes included.
-SceneItems placed(const SceneItems& items, const Placement& placement);
 
 }  // namespace todaychord
