@@ -1,10 +1,10 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "TodayChordExtension/diagram/color.h"
 #include "TodayChordExtension/diagram/diagram_metrics.h"
+#include "TodayChordExtension/diagram/font.h"
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/foundation/whole_number.h"
 #include "Tonelake/theory/tuning.h"
@@ -16,14 +16,6 @@ using tonelake::WholeNumber;
 using tonelake::WholeNumbers;
 
 enum class ColorSchemeContrast { standard, increased };
-
-/// A typeface of the program and its size in design units.
-struct Font {
-  std::string name;
-  double size = 0;
-
-  friend bool operator==(const Font&, const Font&) = default;
-};
 
 /// One fingering of a chord, drawn as an upright fretboard, with everything that decides how it
 /// looks. Plain data: layOutDiagram tells where things lie.
@@ -46,7 +38,7 @@ struct ChordView {
   Color fillColor{0x3B0A63};
   Gradient stringHighlightGradient{{0, {0xFFFFFF}}, {1, {0xCC66DA}}};
   Gradient stringHighlightGradientPlain{{0, {0xFFFFFF}}, {1, {0xE0A8E8}}};
-  Gradient stringColorGradient{{0, {0xDEDEDE}}, {1, {0xA9A0B8}}};
+  Gradient stringColorGradient{{0, {0xDEDEDE}}, {0.5, {0xF4EFF8}}, {1, {0xDEDEDE}}};
   Font font{"Space Grotesk Medium", metrics::noteLabelFontSize};
   Font topFont{"Space Grotesk Medium", metrics::topFontSize};
   double displacementValue = 0;

@@ -1,23 +1,8 @@
 #pragma once
 
+#include "TodayChordExtension/diagram/geometry.h"
+
 namespace todaychord {
-
-struct Point {
-  double x = 0;
-  double y = 0;
-
-  friend bool operator==(const Point&, const Point&) = default;
-};
-
-/// One cubic curve.
-struct Curve {
-  Point start;
-  Point control1;
-  Point control2;
-  Point end;
-
-  friend bool operator==(const Curve&, const Curve&) = default;
-};
 
 /// A string that bows towards where it is plucked; straight when it is not displaced.
 struct StringShape {

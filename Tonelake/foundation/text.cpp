@@ -1,5 +1,6 @@
 #include "Tonelake/foundation/text.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace tonelake {
@@ -62,6 +63,15 @@ std::size_t countCharacters(std::string_view text) noexcept {
   std::size_t count = 0;
   for (const char byte : text) count += isContinuation(byte) ? 0 : 1;
   return count;
+}
+
+std::vector<std::string_view> splitCharacters(std::string_view text) {
+  std::vector<std::string_view> characters;
+  while (!text.empty()) {
+    characters.push_back(text.substr(0, std::max<std::size_t>(1, characterLength(text))));
+    text.remove_prefix(characters.back().size());
+  }
+  return characters;
 }
 
 bool isValidUtf8(std::string_view text) noexcept {

@@ -20,6 +20,10 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
 /// one character: "E♭" has two. `text` is UTF-8.
 std::size_t countCharacters(std::string_view text) noexcept;
 
+/// The characters of `text` one by one. A byte that belongs to no well-formed UTF-8 character is a
+/// piece of its own: "é\xFF" gives "é" and "\xFF".
+std::vector<std::string_view> splitCharacters(std::string_view text);
+
 /// Whether `text` is well-formed UTF-8 (no overlong forms, no surrogates, nothing above U+10FFFF).
 bool isValidUtf8(std::string_view text) noexcept;
 

@@ -1,0 +1,185 @@
+#include "Desktop/svg_renderer.h"
+
+#include <sstream>
+#include <utility>
+#include <variant>
+
+#include <pugixml.hpp>
+
+#include "Desktop/svg_gradients.h"
+#include "Desktop/svg_text.h"
+
+namespace desktop {
+namespace {
+
+using todaychord::Color;
+using todaychord::Paint;
+
+// A typeface of the program as browsers ask for it. The music font holds the signs ♯ ♭ 𝄪.
+struct WebFont {
+  const char* name;
+  const char* family;
+  const char* weight;
+};
+
+// clang-format off
+constexpr WebFont webFonts[] = {
+    {"Space Grotesk Medium",  "'Space Grotesk', 'Noto Music', sans-serif", "500"},
+    {"SpaceGrotesk-SemiBold", "'Space Grotesk', 'Noto Music', sans-serif", "600"},
+};
+// clang-format on
+constexpr WebFont otherFont{"", "sans-serif", "400"};
+
+const WebFont& findWebFont(const std::string& name) {
+  for (const WebFont& font : webFonts) {
+    if (name == font.name) return font;
+  }
+  return otherFont;
+}
+
+// Blanks at the ends and one after another are dropped by browsers unless they are told not to.
+bool losesBlanks(const std::string& text) {
+  return !text.empty() &&
+         (text.front() == ' ' || text.back() == ' ' || text.find("  ") != std::string::npos);
+}
+
+bool containsLink(const todaychord::SceneItems& items) {
+  for (const todaychord::SceneItem& item : items) {
+    if (std::holds_alternative<todaychord::LinkArea>(item.content)) return true;
+    const auto* group = std::get_if<todaychord::SceneGroup>(&item.content);
+    if (group != nullptr && containsLink(group->items)) return true;
+  }
+  return false;
+}
+
+void setFrame(pugi::xml_node node, const todaychord::Rectangle& frame) {
+  setAttribute(node, "x", frame.x);
+  setAttribute(node, "y", frame.y);
+  setAttribute(node, "width", frame.width);
+  setAttribute(node, "height", frame.height);
+}
+
+// Writes a scene's items under a node.
+class SvgWriter {
+ public:
+  SvgWriter(pugi::xml_node definitions, std::string idPrefix)
+      : gradients_(definitions, std::move(idPrefix)) {}
+
+  void write(const todaychord::SceneItems& items, pugi::xml_node parent) {
+    for (const todaychord::SceneItem& item : items) {
+      std::visit([&](const auto& content) { writeItem(content, parent); }, item.content);
+    }
+  }
+
+ private:
+  void writeItem(const todaychord::PathItem& item, pugi::xml_node parent) {
+    pugi::xml_node node = parent.append_child("path");
+    setAttribute(node, "d", formatPath(item.path));
+    if (item.fill) {
+      setPaint(node, "fill", *item.fill);
+    } else {
+      setAttribute(node, "fill", "none");
+    }
+    if (item.stroke) {
+      setPaint(node, "stroke", item.stroke->paint);
+      setAttribute(node, "stroke-width", item.stroke->width);
+      setAttribute(node, "stroke-miterlimit", item.stroke->miterLimit);
+      if (item.stroke->cap == todaychord::LineCap::round)
+        setAttribute(node, "stroke-linecap", "round");
+    }
+    setOpacity(node, "opacity", item.opacity);
+  }
+
+  void writeItem(const todaychord::TextItem& item, pugi::xml_node parent) {
+    pugi::xml_node node = parent.append_child("text");
+    const WebFont& font = findWebFont(item.font.name);
+    setAttribute(node, "x", item.baseline.x);
+    setAttribute(node, "y", item.baseline.y);
+    const std::string text = cleanForXml(item.text);
+    const std::string shifts = formatSignShifts(text, item.font.size);
+    if (!shifts.empty()) setAttribute(node, "dy", shifts);
+    if (losesBlanks(text)) setAttribute(node, "xml:space", "preserve");
+    setAttribute(node, "font-family", font.family);
+    setAttribute(node, "font-weight", font.weight);
+    setAttribute(node, "font-size", item.font.size);
+    if (item.anchor != todaychord::TextAnchor::start) {
+      setAttribute(node, "text-anchor",
+                   item.anchor == todaychord::TextAnchor::middle ? "middle" : "end");
+    }
+    setPaint(node, "fill", item.color);
+    node.text().set(text.c_str());
+  }
+
+  void writeItem(const todaychord::ImageItem& item, pugi::xml_node parent) {
+    pugi::xml_node node = parent.append_child("use");
+    setAttribute(node, "href", '#' + item.name);
+    setFrame(node, item.frame);
+    setPaint(node, "color", item.tint);
+  }
+
+  void writeItem(const todaychord::LinkArea& item, pugi::xml_node parent) {
+    pugi::xml_node link = parent.append_child("a");
+    setAttribute(link, "href", item.address);
+    setAttribute(link, "aria-label", item.label);
+    pugi::xml_node area = link.append_child("rect");
+    setFrame(area, item.frame);
+    setAttribute(area, "fill", "none");
+    setAttribute(area, "pointer-events", "all");
+  }
+
+  void writeItem(const todaychord::SceneGroup& group, pugi::xml_node parent) {
+    pugi::xml_node node = parent.append_child("g");
+    if (!group.name.empty()) setAttribute(node, "class", group.name);
+    write(group.items, node);
+  }
+
+  // `name` is the attribute: fill, stroke or color. Gradients carry their opacity themselves.
+  void setPaint(pugi::xml_node node, const std::string& name, const Paint& paint) {
+    const auto* color = std::get_if<Color>(&paint);
+    if (color == nullptr) {
+      setAttribute(node, name.c_str(), "url(#" + gradients_.idOf(paint) + ')');
+      return;
+    }
+    setAttribute(node, name.c_str(), formatColor(*color));
+    setOpacity(node, (name == "color" ? "opacity" : name + "-opacity").c_str(), color->opacity);
+  }
+
+  SvgGradients gradients_;
+};
+
+// A picture with links is no single image to a screen reader: the links must stay reachable.
+void writeRole(pugi::xml_node svg, const todaychord::Scene& scene, const std::string& idPrefix) {
+  setAttribute(svg, "role", containsLink(scene.items) ? "group" : "img");
+  const auto addText = [&](const char* element, const char* attribute, const std::string& text) {
+    if (text.empty()) return;
+    const std::string id = idPrefix + element;
+    setAttribute(svg, attribute, id);
+    pugi::xml_node node = svg.append_child(element);
+    setAttribute(node, "id", id);
+    node.text().set(cleanForXml(text).c_str());
+  };
+  addText("title", "aria-labelledby", scene.title);
+  addText("desc", "aria-describedby", scene.description);
+}
+
+}  // namespace
+
+std::string renderSvg(const todaychord::Scene& scene, const std::string& idPrefix) {
+  pugi::xml_document document;
+  pugi::xml_node svg = document.append_child("svg");
+  setAttribute(svg, "xmlns", "http://www.w3.org/2000/svg");
+  setAttribute(svg, "width", scene.width);
+  setAttribute(svg, "height", scene.height);
+  setAttribute(svg, "viewBox",
+               "0 0 " + formatNumber(scene.width) + ' ' + formatNumber(scene.height));
+  writeRole(svg, scene, idPrefix);
+  pugi::xml_node definitions = svg.append_child("defs");
+  SvgWriter(definitions, idPrefix).write(scene.items, svg);
+  if (definitions.first_child().empty()) svg.remove_child(definitions);
+  std::ostringstream text;
+  document.save(text, "  ", pugi::format_default | pugi::format_no_declaration,
+                pugi::encoding_utf8);
+  return text.str();
+}
+
+}  // namespace desktop

@@ -1,0 +1,106 @@
+#include "Desktop/svg_text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <iterator>
+
+#include "Tonelake/foundation/text.h"
+
+namespace desktop {
+namespace {
+
+using todaychord::Point;
+
+constexpr std::string_view replacement = "\xEF\xBF\xBD";  // U+FFFD
+
+// A comma is not needed before a minus, but a blank reads better and costs the same.
+std::string formatPoint(Point point) {
+  return formatNumber(point.x) + ' ' + formatNumber(point.y);
+}
+
+struct StepFormatter {
+  std::string operator()(const todaychord::MoveTo& step) const {
+    return 'M' + formatPoint(step.to);
+  }
+  std::string operator()(const todaychord::LineTo& step) const {
+    return 'L' + formatPoint(step.to);
+  }
+  std::string operator()(const todaychord::CurveTo& step) const {
+    return 'C' + formatPoint(step.control1) + ' ' + formatPoint(step.control2) + ' ' +
+           formatPoint(step.to);
+  }
+  std::string operator()(const todaychord::ClosePath&) const { return "Z"; }
+};
+
+// XML 1.0 allows tab and line ends below U+0020, and neither U+FFFE nor U+FFFF. Surrogates are no
+// well-formed UTF-8 in the first place.
+bool isAllowed(std::string_view character) {
+  if (character == "\xEF\xBF\xBE" || character == "\xEF\xBF\xBF") return false;
+  if (character.size() > 1) return true;
+  const auto byte = static_cast<unsigned char>(character.front());
+  return byte < 0x80 && (byte >= 0x20 || byte == '\t' || byte == '\n' || byte == '\r');
+}
+
+bool isMusicSign(std::string_view character) {
+  constexpr std::string_view signs[] = {"♭", "♮", "♯", "𝄪", "𝄫"};
+  return std::find(std::begin(signs), std::end(signs), character) != std::end(signs);
+}
+
+}  // namespace
+
+std::string formatNumber(double number) {
+  constexpr int decimals = 3;
+  constexpr double largest = 1e9;  // far beyond any picture; keeps the digits in the buffer
+  if (!std::isfinite(number)) return "0";
+  char buffer[32];
+  const auto [end, error] = std::to_chars(std::begin(buffer), std::end(buffer),
+                                          std::fmin(std::fmax(number, -largest), largest),
+                                          std::chars_format::fixed, decimals);
+  std::string text(std::begin(buffer), end);
+  text.erase(text.find_last_not_of('0') + 1);
+  if (text.back() == '.') text.pop_back();
+  return text == "-0" ? "0" : text;
+}
+
+std::string formatColor(const todaychord::Color& color) {
+  constexpr char digits[] = "0123456789ABCDEF";
+  constexpr int highestShift = 20;
+  std::string text = "#";
+  for (int shift = highestShift; shift >= 0; shift -= 4) text += digits[color.rgb >> shift & 0xFU];
+  return text;
+}
+
+std::string formatPath(const todaychord::Path& path) {
+  std::string text;
+  for (const todaychord::PathStep& step : path) text += std::visit(StepFormatter(), step);
+  return text;
+}
+
+std::string formatSignShifts(std::string_view text, double fontSize) {
+  constexpr double rise = 0.12;  // of the font size
+  std::string shifts;
+  std::size_t upToLastShift = 0;
+  bool isRaised = false;
+  for (const std::string_view character : tonelake::splitCharacters(text)) {
+    const bool isSign = isMusicSign(character);
+    const double shift = isSign == isRaised ? 0 : isSign ? -rise * fontSize : rise * fontSize;
+    shifts += (shifts.empty() ? "" : " ") + formatNumber(shift);
+    if (shift != 0) upToLastShift = shifts.size();
+    // Shifts count UTF-16 units, of which 𝄪 takes two.
+    if (character.size() > 3) shifts += " 0";
+    isRaised = isSign;
+  }
+  return shifts.substr(0, upToLastShift);
+}
+
+std::string cleanForXml(std::string_view text) {
+  std::string clean;
+  for (const std::string_view character : tonelake::splitCharacters(text)) {
+    clean += isAllowed(character) ? character : replacement;
+  }
+  return clean;
+}
+
+}  // namespace desktop

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "TodayChordExtension/diagram/scene.h"
+
+namespace todaychord {
+
+/// Where a picture's origin goes and how much it grows: a length l becomes scale * l, the point
+/// (x, y) becomes origin + scale * (x, y).
+struct Placement {
+  Point origin;
+  double scale = 1;
+};
+
+/// A copy of `items` elsewhere and in another size, fonts and strokes included.
+SceneItems placed(const SceneItems& items, const Placement& placement);
+
+}  // namespace todaychord

@@ -1,0 +1,53 @@
+#include "TodayChordExtension/diagram/text_width.h"
+
+#include <algorithm>
+
+#include "Tonelake/foundation/text.h"
+
+namespace todaychord {
+namespace {
+
+struct WidthClass {
+  double width;  // of the widest character, in font sizes
+  std::string_view characters;
+};
+
+// Measured in Space Grotesk Medium and SemiBold, the music signs in Noto Music and DejaVu Sans,
+// each rounded up.
+// clang-format off
+constexpr WidthClass widthClasses[] = {
+    {0.30, "|Iilj',!.:;` "},
+    {0.46, "[]/\\)r(1f-{}t"},
+    {0.48, "♭♮𝄪𝄫"},
+    {0.56, "♯"},
+    {0.90, "wmMW%"},
+    {1.03, "@"},
+};
+// clang-format on
+constexpr double commonWidth = 0.68;  // every other letter, digit and sign
+constexpr double widestWidth = 1.05;  // East Asian letters, and what is not known better
+
+double characterWidth(std::string_view character) {
+  for (const WidthClass& widthClass : widthClasses) {
+    if (widthClass.characters.find(character) != std::string_view::npos) return widthClass.width;
+  }
+  // From U+2E80 on, which UTF-8 writes as E2 BA 80, characters may fill a square.
+  return character >= "\xE2\xBA\x80" ? widestWidth : commonWidth;
+}
+
+}  // namespace
+
+double largestTextWidth(std::string_view text, double fontSize) {
+  double width = 0;
+  for (const std::string_view character : tonelake::splitCharacters(text)) {
+    width += characterWidth(character);
+  }
+  return width * fontSize;
+}
+
+double fittingFontSize(std::string_view text, double fontSize, double width) {
+  const double natural = largestTextWidth(text, fontSize);
+  return natural <= width ? fontSize : fontSize * width / natural;
+}
+
+}  // namespace todaychord

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string_view>
+
+namespace todaychord {
+
+/// A width that `text` does not exceed in the program's typefaces at `fontSize`, in the unit of
+/// the size. Letters outside ASCII are taken to be as wide as their script's widest.
+double largestTextWidth(std::string_view text, double fontSize);
+
+/// The size, at most `fontSize`, at which `text` is no wider than `width`.
+double fittingFontSize(std::string_view text, double fontSize, double width);
+
+}  // namespace todaychord
