@@ -74,6 +74,14 @@ std::vector<std::string_view> splitCharacters(std::string_view text) {
   return characters;
 }
 
+std::string quoted(std::string_view text) {
+  constexpr std::size_t longest = 40;
+  if (text.size() <= longest) return '"' + std::string(text) + '"';
+  std::size_t end = longest;
+  while (end > 0 && isContinuation(text[end])) --end;
+  return '"' + std::string(text.substr(0, end)) + "...\"";
+}
+
 bool isValidUtf8(std::string_view text) noexcept {
   while (!text.empty()) {
     const std::size_t length = characterLength(text);

@@ -24,6 +24,10 @@ std::size_t countCharacters(std::string_view text) noexcept;
 /// piece of its own: "é\xFF" gives "é" and "\xFF".
 std::vector<std::string_view> splitCharacters(std::string_view text);
 
+/// `text` between quotation marks for a message; a long one is cut after 40 bytes, between two
+/// characters, and ends in "...".
+std::string quoted(std::string_view text);
+
 /// Whether `text` is well-formed UTF-8 (no overlong forms, no surrogates, nothing above U+10FFFF).
 bool isValidUtf8(std::string_view text) noexcept;
 
