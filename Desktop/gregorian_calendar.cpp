@@ -1,5 +1,6 @@
 #include "Desktop/gregorian_calendar.h"
 
+#include <mutex>
 #include <optional>
 #include <utility>
 
@@ -65,11 +66,12 @@ std::optional<date::local_seconds> toLocalSeconds(const LocalTime& time) {
 
 class GregorianCalendar final : public tonelake::Calendar {
  public:
-  GregorianCalendar(NamedZone zone, Clock clock)
-      : name_(std::move(zone.name)), zone_(std::move(zone.zone)), clock_(std::move(clock)) {}
+  // `findZone` is called once, when the zone is first needed.
+  GregorianCalendar(std::function<NamedZone()> findZone, Clock clock)
+      : findZone_(std::move(findZone)), clock_(std::move(clock)) {}
 
   Instant now() const override { return clock_(); }
-  std::string timeZone() const override { return name_; }
+  std::string timeZone() const override { return zone().name; }
 
   std::optional<int> ordinalOfDay(Instant instant) const override {
     if (!isInRange(instant)) return std::nullopt;
@@ -100,25 +102,32 @@ class GregorianCalendar final : public tonelake::Calendar {
   std::optional<Instant> nextMidnight(Instant instant) const override;
 
  private:
-  date::local_days localDay(Instant instant) const {
-    const auto second = date::floor<seconds>(instant);
-    return date::floor<date::days>(shown(second, zone_.periodAt(second)));
+  const NamedZone& zone() const {
+    std::call_once(zoneFound_, [this] { zone_ = findZone_(); });
+    return *zone_;
   }
 
-  std::string name_;
-  Zone zone_;
-  Clock clock_;
+  OffsetPeriod periodAt(date::sys_seconds moment) const { return zone().zone.periodAt(moment); }
+
+  date::local_days localDay(Instant instant) const {
+    const auto second = date::floor<seconds>(instant);
+    return date::floor<date::days>(shown(second, periodAt(second)));
+  }
+
+  const std::function<NamedZone()> findZone_;
+  const Clock clock_;
+  mutable std::once_flag zoneFound_;
+  mutable std::optional<NamedZone> zone_;
 };
 
 std::optional<Instant> GregorianCalendar::instant(const LocalTime& time) const {
   const auto local = toLocalSeconds(time);
   if (!local) return std::nullopt;
   // Two days before, every clock of the world shows an earlier time.
-  OffsetPeriod period =
-      zone_.periodAt(date::sys_seconds(local->time_since_epoch()) - date::days(2));
+  OffsetPeriod period = periodAt(date::sys_seconds(local->time_since_epoch()) - date::days(2));
   // The first period that reaches the time either shows it or begins behind it.
   while (moment(*local, period) >= period.end) {
-    const OffsetPeriod next = zone_.periodAt(period.end);
+    const OffsetPeriod next = periodAt(period.end);
     if (shown(next.begin, next) > *local) {
       const date::local_days day = date::floor<date::days>(*local);
       const bool isWholeDaySkipped =
@@ -133,12 +142,12 @@ std::optional<Instant> GregorianCalendar::instant(const LocalTime& time) const {
 std::optional<Instant> GregorianCalendar::nextMidnight(Instant instant) const {
   if (!isInRange(instant)) return std::nullopt;
   const auto second = date::floor<seconds>(instant);
-  OffsetPeriod period = zone_.periodAt(second);
+  OffsetPeriod period = periodAt(second);
   date::sys_seconds from = second + seconds(1);
   for (;;) {
     const auto midnight = moment(date::ceil<date::days>(shown(from, period)), period);
     if (midnight < period.end) return midnight;
-    const OffsetPeriod next = zone_.periodAt(period.end);
+    const OffsetPeriod next = periodAt(period.end);
     if (skipsMidnight(period, next)) return next.begin;
     period = next;
     from = next.begin;
@@ -155,15 +164,19 @@ std::shared_ptr<const tonelake::Calendar> makeGregorianCalendar(const std::strin
                                                                 Clock clock) {
   auto zone = findZone(zoneSourcesOfThisMachine().zoneFolder, zoneName);
   if (!zone) return nullptr;
-  return std::make_shared<GregorianCalendar>(std::move(*zone), std::move(clock));
+  return std::make_shared<GregorianCalendar>([zone = std::move(*zone)] { return zone; },
+                                             std::move(clock));
 }
 
-std::shared_ptr<const tonelake::Calendar> makeMachineCalendar(tonelake::Diagnostics& diagnostics,
-                                                              Clock clock,
-                                                              const ZoneSources& sources) {
-  MachineZone machine = findMachineZone(sources);
-  if (!machine.warning.empty()) diagnostics.write(machine.warning);
-  return std::make_shared<GregorianCalendar>(std::move(machine.zone), std::move(clock));
+std::shared_ptr<const tonelake::Calendar> makeMachineCalendar(
+    std::shared_ptr<tonelake::Diagnostics> diagnostics, Clock clock, ZoneSources sources) {
+  return std::make_shared<GregorianCalendar>(
+      [diagnostics = std::move(diagnostics), sources = std::move(sources)] {
+        MachineZone machine = findMachineZone(sources);
+        if (!machine.warning.empty()) diagnostics->write(machine.warning);
+        return std::move(machine.zone);
+      },
+      std::move(clock));
 }
 
 }  // namespace desktop

@@ -22,10 +22,10 @@ tonelake::Instant systemClock();
 std::shared_ptr<const tonelake::Calendar> makeGregorianCalendar(const std::string& zoneName,
                                                                 Clock clock = systemClock);
 
-/// The same in the time zone of the machine, never nullptr: where the zone cannot be told,
-/// `diagnostics` gets one line and the calendar is that of UTC.
+/// The same in the time zone of the machine, which is looked up when first needed. Never nullptr:
+/// where the zone cannot be told, `diagnostics` then gets one line and the zone is UTC.
 std::shared_ptr<const tonelake::Calendar> makeMachineCalendar(
-    tonelake::Diagnostics& diagnostics, Clock clock = systemClock,
-    const ZoneSources& sources = zoneSourcesOfThisMachine());
+    std::shared_ptr<tonelake::Diagnostics> diagnostics, Clock clock = systemClock,
+    ZoneSources sources = zoneSourcesOfThisMachine());
 
 }  // namespace desktop
