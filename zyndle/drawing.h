@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Tonelake/chords/chord.h"
+#include "Tonelake/fingering/chord_position.h"
+#include "Tonelake/theory/tuning.h"
+#include "zyndle/output_options.h"
+
+namespace zyndle {
+
+/// How diagrams and titles look.
+struct DrawingStyle {
+  bool isLeftHanded = false;
+  bool isAscii = false;
+  bool isColoured = false;
+};
+
+/// What the options ask for, what the setting says where they leave it open, and colour only
+/// where the terminal shows it.
+DrawingStyle drawingStyle(const OutputOptions& options);
+
+/// `text` in bold where there is colour.
+std::string emphasized(const std::string& text, const DrawingStyle& style);
+
+/// The shapes as terminal diagrams, as many side by side as 80 columns hold.
+std::string drawInTerminal(const tonelake::Chord& chord,
+                           const std::vector<tonelake::ChordPosition>& positions,
+                           const tonelake::TuningNames& tuning, const DrawingStyle& style);
+
+/// Writes the diagram of the first shape where --svg wants it, if it was given. A CommandError
+/// when there is no shape to draw or the file cannot be written.
+void writeSvg(const OutputOptions& options, const tonelake::Chord& chord,
+              const std::vector<tonelake::ChordPosition>& positions,
+              const tonelake::TuningNames& tuning, const DrawingStyle& style);
+
+}  // namespace zyndle

@@ -1,0 +1,38 @@
+#include "zyndle/output_options.h"
+
+#include <CLI/CLI.hpp>
+
+#include "Desktop/ascii_text.h"
+#include "zyndle/command_error.h"
+#include "zyndle/output.h"
+
+namespace zyndle {
+
+void addOutputOptions(CLI::App& command, OutputOptions& options) {
+  const auto addFlag = [&command](const char* name, bool& flag, const char* meaning) {
+    command.add_flag(name, flag, meaning)->disable_flag_override();
+  };
+  addFlag("--left-handed", options.leftHanded, "Mirror the diagrams");
+  addFlag("--right-handed", options.rightHanded, "Do not, even if left_handed is set");
+  addFlag("--ascii", options.ascii, "Write and draw with ASCII characters only");
+  addFlag("--json", options.json, "Write one JSON object, for scripts");
+  command.add_option("--svg", options.svgFile, "Draw the first shape too; - for standard output")
+      ->type_name("FILE");
+}
+
+void checkOutputOptions(const OutputOptions& options) {
+  if (options.leftHanded && options.rightHanded) {
+    refuse("--left-handed and --right-handed contradict each other");
+  }
+  if (!options.svgFile) return;
+  if (options.svgFile->empty()) refuse("--svg needs the name of a file, or - for standard output");
+  if (options.json && *options.svgFile == "-") {
+    refuse("--json and --svg - cannot both be written to standard output");
+  }
+}
+
+void writeText(const OutputOptions& options, const std::string& text) {
+  writeStandardOutput(options.ascii ? desktop::toAscii(text) : text);
+}
+
+}  // namespace zyndle

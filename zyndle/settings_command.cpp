@@ -1,0 +1,157 @@
+#include "zyndle/settings_command.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include "Desktop/settings_files.h"
+#include "Tonelake/foundation/text.h"
+#include "Tonelake/platform/diagnostics.h"
+#include "zyndle/command_error.h"
+#include "zyndle/output.h"
+#include "zyndle/view_settings.h"
+
+namespace zyndle {
+namespace {
+
+using desktop::Setting;
+using desktop::SettingType;
+using desktop::SqliteSettingsStore;
+
+constexpr const char* description = "Read and change the settings shared with the widgets";
+
+constexpr const char* examples = R"(Settings:
+  todayChordCategory     category of the chord of the day: beginner, advanced or
+                         jazz; beginner unless it is set
+  left_handed            mirror diagrams: true or false; false unless it is set
+  recentlyViewedChords   kept by the app, as data
+  chordCollections       kept by the app, as data
+
+Examples:
+  zyndle settings list
+  zyndle settings set todayChordCategory jazz
+  zyndle settings set left_handed true
+  zyndle settings delete left_handed)";
+
+constexpr std::size_t keyWidth = 22;
+constexpr std::size_t shownLength = 48;  // bytes of a value, so that a line keeps to 80 columns
+
+struct SettingsOptions {
+  std::string key;
+  std::string value;
+};
+
+const KnownSetting& readKey(const std::string& key) {
+  std::string keys;
+  for (const KnownSetting& setting : knownSettings) {
+    if (setting.key == key) return setting;
+    keys += (keys.empty() ? "" : ", ") + std::string(setting.key);
+  }
+  refuse("there is no setting " + tonelake::quoted(key) + "; there are " + keys);
+}
+
+// The store itself rather than the port, since it tells what went wrong.
+std::shared_ptr<SqliteSettingsStore> openSettings() {
+  const SqliteSettingsStore::Opening opening =
+      desktop::openSettingsFile(desktop::settingsFiles().shared,
+                                makeStreamDiagnostics(tonelake::DiagnosticStream::standardError));
+  if (!opening.store) fail(opening.problem);
+  return opening.store;
+}
+
+void failIf(const std::optional<std::string>& problem) {
+  if (problem) fail(*problem);
+}
+
+// A value on one line; a long one, such as the app's data, only begins.
+std::string abbreviated(const std::string& value) {
+  if (value.size() <= shownLength) return printable(value);
+  return fmt::format("{}... ({} bytes)", printable(value.substr(0, shownLength / 2)), value.size());
+}
+
+// A value of another type than its key's counts as none everywhere, so it is told apart.
+std::string describe(const KnownSetting& known, const std::vector<Setting>& settings) {
+  const auto found = std::find_if(settings.begin(), settings.end(),
+                                  [&](const Setting& setting) { return setting.key == known.key; });
+  if (found == settings.end()) return "(not set)";
+  return abbreviated(found->value) + (found->type == known.type ? "" : " (wrong type, not used)");
+}
+
+void listSettings() {
+  const auto answer = openSettings()->list();
+  failIf(answer.problem);
+  std::string text;
+  for (const KnownSetting& known : knownSettings) {
+    text += fmt::format("{:{}} {}\n", known.key, keyWidth, describe(known, answer.value));
+  }
+  writeStandardOutput(text);
+}
+
+void getSetting(const SettingsOptions& options) {
+  const KnownSetting& known = readKey(options.key);
+  const auto answer = openSettings()->find(options.key);
+  failIf(answer.problem);
+  if (!answer.value || answer.value->type != known.type) fail(options.key + " is not set");
+  writeStandardOutput(answer.value->value + '\n');
+}
+
+void checkValue(const KnownSetting& known, const std::string& value) {
+  const std::string key(known.key);
+  switch (known.type) {
+    case SettingType::text:
+      if (tonelake::ChordCategory::fromRawValue(value)) return;
+      refuse(key + " can be beginner, advanced or jazz, not " + tonelake::quoted(value));
+    case SettingType::boolean:
+      if (value == "true" || value == "false") return;
+      refuse(key + " can be true or false, not " + tonelake::quoted(value));
+    case SettingType::data:
+      refuse(key + " is data that the app keeps; it can be read and deleted, not set");
+  }
+}
+
+void setSetting(const SettingsOptions& options) {
+  const KnownSetting& known = readKey(options.key);
+  checkValue(known, options.value);
+  failIf(openSettings()->write({options.key, known.type, options.value}));
+}
+
+void deleteSetting(const SettingsOptions& options) {
+  readKey(options.key);
+  failIf(openSettings()->erase(options.key));
+}
+
+void addKey(CLI::App& command, SettingsOptions& options) {
+  command.add_option("KEY", options.key, "The name of a setting")->required()->type_name("");
+}
+
+}  // namespace
+
+void addSettingsCommand(CLI::App& app, Action& action) {
+  const auto options = std::make_shared<SettingsOptions>();
+  CLI::App& command = *app.add_subcommand("settings", description);
+  command.footer(examples);
+  command.require_subcommand(1);
+
+  CLI::App& list = *command.add_subcommand("list", "List every setting with its value");
+  list.callback([&action] { action = listSettings; });
+
+  CLI::App& get = *command.add_subcommand("get", "Write the value of one setting");
+  addKey(get, *options);
+  get.callback([options, &action] { action = [options] { getSetting(*options); }; });
+
+  CLI::App& set = *command.add_subcommand("set", "Give a setting a value");
+  addKey(set, *options);
+  set.add_option("VALUE", options->value, "The new value")->required()->type_name("");
+  set.callback([options, &action] { action = [options] { setSetting(*options); }; });
+
+  CLI::App& remove = *command.add_subcommand("delete", "Forget the value of a setting");
+  addKey(remove, *options);
+  remove.callback([options, &action] { action = [options] { deleteSetting(*options); }; });
+}
+
+}  // namespace zyndle
