@@ -1,0 +1,46 @@
+#include "Desktop/files.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace desktop {
+namespace {
+
+// Closes the file on every way out.
+struct OpenFile {
+  explicit OpenFile(const std::string& path)
+      // Without O_NONBLOCK a pipe would keep us waiting for its writer.
+      : descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {}
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+  ~OpenFile() {
+    if (descriptor >= 0) ::close(descriptor);
+  }
+  int descriptor;
+};
+
+}  // namespace
+
+std::optional<std::string> readFile(const std::string& path, std::size_t limit) {
+  const OpenFile file(path);
+  struct stat status {};
+  // Regular files only: a device may have no end.
+  if (file.descriptor < 0 || ::fstat(file.descriptor, &status) != 0 || !S_ISREG(status.st_mode) ||
+      static_cast<std::size_t>(status.st_size) > limit) {
+    return std::nullopt;
+  }
+  std::string contents(static_cast<std::size_t>(status.st_size), '\0');
+  std::size_t length = 0;
+  while (length < contents.size()) {
+    const ssize_t read =
+        ::read(file.descriptor, contents.data() + length, contents.size() - length);
+    if (read < 0) return std::nullopt;
+    if (read == 0) break;  // the file became shorter meanwhile
+    length += static_cast<std::size_t>(read);
+  }
+  contents.resize(length);
+  return contents;
+}
+
+}  // namespace desktop

@@ -1,0 +1,207 @@
+#include "Desktop/sqlite_settings_store.h"
+
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include "Desktop/files.h"
+#include "Desktop/lazy_settings_store.h"
+#include "tests/desktop/recording_diagnostics.h"
+#include "tests/desktop/temporary_folder.h"
+
+namespace desktop {
+namespace {
+
+using namespace std::string_literals;
+
+class SqliteSettingsStoreTest : public testing::Test {
+ protected:
+  std::shared_ptr<SqliteSettingsStore> open(const std::string& path) {
+    auto [store, problem] = SqliteSettingsStore::open(path, diagnostics);
+    EXPECT_NE(store, nullptr) << problem;
+    return store;
+  }
+
+  std::unique_ptr<SqliteDatabase> openPlainly(const std::string& path) {
+    return SqliteDatabase::open(path, std::chrono::milliseconds(0), 1 << 30).database;
+  }
+
+  TemporaryFolder folder;
+  std::string file = folder.path("test.sqlite");
+  std::shared_ptr<RecordingDiagnostics> diagnostics = std::make_shared<RecordingDiagnostics>();
+};
+
+// What every store promises, whatever it is made of.
+void expectContract(tonelake::SettingsStore& store) {
+  for (const std::string& key : {"todayChordCategory"s, ""s, "ключ ♯"s, "with\0zero"s}) {
+    EXPECT_EQ(store.text(key), std::nullopt) << key;
+    store.remove(key);
+    for (const std::string& value :
+         {"jazz"s, ""s, "zero\0inside"s, "1"s, "\xff\xfe"s, std::string(300'000, 'x')}) {
+      store.setText(key, value);
+      EXPECT_EQ(store.text(key), value) << key;
+      EXPECT_EQ(store.boolean(key), std::nullopt) << key;
+      EXPECT_EQ(store.data(key), std::nullopt) << key;
+      store.setData(key, value);
+      EXPECT_EQ(store.data(key), value) << key;
+      EXPECT_EQ(store.text(key), std::nullopt) << key;
+    }
+    for (const bool value : {true, false}) {
+      store.setBoolean(key, value);
+      EXPECT_EQ(store.boolean(key), value) << key;
+      EXPECT_EQ(store.text(key), std::nullopt) << key;
+      EXPECT_EQ(store.data(key), std::nullopt) << key;
+    }
+    store.remove(key);
+    EXPECT_EQ(store.boolean(key), std::nullopt) << key;
+  }
+}
+
+TEST_F(SqliteSettingsStoreTest, KeepsWhatEveryStoreKeeps) {
+  expectContract(*open(file));
+  expectContract(*tonelake::makeMemorySettingsStore());
+  expectContract(*makeLazySettingsStore(tonelake::makeMemorySettingsStore));
+  EXPECT_EQ(diagnostics->lines(), std::vector<std::string>());
+}
+
+TEST_F(SqliteSettingsStoreTest, ListsAfterReopeningWhatWasWritten) {
+  const std::vector<Setting> settings = {
+      {"category", SettingType::text, "jazz"},       {"empty", SettingType::data, ""},
+      {"left_handed", SettingType::boolean, "true"}, {"loud", SettingType::boolean, "false"},
+      {"recent", SettingType::data, "[\0]"s},
+  };
+  for (const Setting& setting : settings) EXPECT_EQ(open(file)->write(setting), std::nullopt);
+  EXPECT_EQ(open(file)->erase("nothing of the kind"), std::nullopt);
+  EXPECT_EQ(open(file)->list().value, settings);
+  EXPECT_EQ(open(file)->find("left_handed").value, settings[2]);
+  EXPECT_EQ(open(file)->find("nothing of the kind").value, std::nullopt);
+  EXPECT_EQ(open(file)->erase("recent"), std::nullopt);
+  EXPECT_EQ(open(file)->list().value.size(), settings.size() - 1);
+}
+
+TEST_F(SqliteSettingsStoreTest, RefusesFilesThatAreNotItsOwn) {
+  const auto run = [this](const std::string& name, const char* sql) {
+    EXPECT_TRUE(openPlainly(folder.path(name))->execute(sql)) << name;
+  };
+  run("foreign", "CREATE TABLE songs(title)");
+  run("newer", "PRAGMA user_version = 2");
+  run("negative", "PRAGMA user_version = -1");
+  folder.write("garbage", std::string(5000, '#'));
+  folder.write("short", "garbage\n");
+  std::filesystem::create_directory(folder.path("folder"));
+  struct Row {
+    const char* name;
+    const char* problem;
+  };
+  const Row rows[] = {
+      {"foreign", "not one of settings"},  {"newer", "newer version"},
+      {"negative", "not one of settings"}, {"garbage", "not a database"},
+      {"short", "not a database"},         {"folder", "unable to open"},
+      {"garbage/below", "unable to open"}, {"missing/folder", "unable to open"},
+  };
+  for (const Row& row : rows) {
+    const std::string path = folder.path(row.name);
+    const auto before = readFile(path, 1 << 20);
+    const auto [store, problem] = SqliteSettingsStore::open(path, diagnostics);
+    EXPECT_EQ(store, nullptr) << row.name;
+    EXPECT_TRUE(problem.starts_with(path + ": ")) << problem;
+    EXPECT_NE(problem.find(row.problem), std::string::npos) << problem;
+    EXPECT_EQ(problem.find('\n'), std::string::npos) << problem;
+    EXPECT_TRUE(readFile(path, 1 << 20) == before) << row.name << " was changed";
+  }
+}
+
+// Whatever is damaged behind the first page, each call gives an answer, and there is one line.
+TEST_F(SqliteSettingsStoreTest, SurvivesDamageFoundLate) {
+  const Setting large{"large", SettingType::data, std::string(100'000, 'x')};
+  open(file)->write(large);
+  const std::string intact = readFile(file, 1 << 20).value();
+  for (std::size_t from : {200u, 4000u, 4096u, 8192u, 20000u}) {
+    std::string damaged = intact;
+    for (std::size_t i = from; i < damaged.size(); ++i) damaged[i] = static_cast<char>(i * 7 + 1);
+    const std::string path = folder.write("damaged-" + std::to_string(from), damaged);
+    const auto lines = std::make_shared<RecordingDiagnostics>();
+    const auto [store, problem] = SqliteSettingsStore::open(path, lines);
+    if (store == nullptr) {
+      EXPECT_TRUE(problem.starts_with(path)) << problem;
+      continue;
+    }
+    for (int i = 0; i < 3; ++i) {
+      (void)store->data("large");
+      (void)store->list();
+      store->setText("a" + std::to_string(i), "b");
+      store->remove("large");
+    }
+    EXPECT_LE(lines->lines().size(), 1u) << from;
+  }
+}
+
+TEST_F(SqliteSettingsStoreTest, ReportsALostTableOnce) {
+  const auto store = open(file);
+  openPlainly(file)->execute("DROP TABLE settings");
+  EXPECT_EQ(store->text("a"), std::nullopt);
+  store->setText("a", "b");
+  store->setBoolean("c", true);
+  ASSERT_EQ(diagnostics->lines().size(), 1u);
+  EXPECT_TRUE(diagnostics->lines()[0].starts_with(file + ": ")) << diagnostics->lines()[0];
+  EXPECT_NE(store->write({"a", SettingType::text, "b"}), std::nullopt) << "told each time";
+  EXPECT_NE(store->list().problem, std::nullopt);
+  EXPECT_NE(store->find("a").problem, std::nullopt);
+}
+
+TEST_F(SqliteSettingsStoreTest, RefusesSettingsOfMoreThanAMebibyte) {
+  const auto store = open(file);
+  const std::string longest(SqliteSettingsStore::longestSetting - 1, 'x');
+  EXPECT_EQ(store->write({"a", SettingType::data, longest}), std::nullopt);
+  EXPECT_EQ(store->data("a"), longest);
+  const auto problem = store->write({"ab", SettingType::data, longest});
+  ASSERT_NE(problem, std::nullopt);
+  EXPECT_NE(problem->find("\"ab\""), std::string::npos) << *problem;
+  EXPECT_NE(store->write({longest, SettingType::text, "xx"}), std::nullopt);
+
+  openPlainly(file)->execute("INSERT INTO settings VALUES('huge', 'data', zeroblob(50000000))");
+  EXPECT_EQ(store->data("huge"), std::nullopt);
+  EXPECT_EQ(diagnostics->lines().size(), 1u);
+  EXPECT_EQ(store->data("a"), longest) << "the others are still there";
+}
+
+TEST_F(SqliteSettingsStoreTest, ChoosesTheJournalOfNewFilesOnly) {
+  const auto journal = [this](const std::string& path) {
+    auto database = openPlainly(path);
+    std::string mode;
+    SqliteStatement statement(*database, "PRAGMA journal_mode");
+    statement.run({}, [&](const SqliteStatement::Row& row) { mode = row.bytes(0); });
+    return mode;
+  };
+  open(file)->setText("a", "b");
+  EXPECT_EQ(journal(file), "wal");
+  openPlainly(file)->execute("PRAGMA journal_mode = DELETE");
+  EXPECT_EQ(open(file)->text("a"), "b");
+  EXPECT_EQ(journal(file), "delete");
+}
+
+TEST_F(SqliteSettingsStoreTest, ServesSeveralThreads) {
+  const auto store = open(file);
+  constexpr int threadCount = 8;
+  constexpr int writesEach = 10;
+  std::vector<std::jthread> threads;
+  threads.reserve(threadCount);
+  for (int thread = 0; thread < threadCount; ++thread) {
+    threads.emplace_back([&, thread] {
+      for (int i = 0; i < writesEach; ++i) {
+        const std::string key = std::to_string(thread) + '-' + std::to_string(i);
+        store->setData(key, key);
+        EXPECT_EQ(store->data(key), key);
+        EXPECT_EQ(store->text(key), std::nullopt);
+      }
+    });
+  }
+  threads.clear();
+  EXPECT_EQ(store->list().value.size(), static_cast<std::size_t>(threadCount * writesEach));
+  EXPECT_EQ(diagnostics->lines(), std::vector<std::string>());
+}
+
+}  // namespace
+}  // namespace desktop
