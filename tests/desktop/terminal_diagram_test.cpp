@@ -37,8 +37,8 @@ TEST(TerminalDiagram, DrawsDiagramsSideBySide) {
       picture(terminalDiagrams(
           {{"C major", openC()}, {"133211", barreF()}, {"", highDm()}, {"left", leftHanded}}, box)),
       R"(
-       C major             133211                                  left
-     ×     ○   ○                           ×                             ×
+       C major            133211                            left
+     ×     ○   ○                           ×                       ×
      ╒═╤═╤═╤═╤═╕        ╒═╤═╤═╤═╤═╕        ┌─┬─┬─┬─┬─┐   ┌─┬─┬─┬─┬─┐
      │ │ │ │ 1 │        1━━━━━━━1━1    5fr │ 1━━━━━━━1   1━━━━━━━1 │ 5fr
      ├─┼─┼─┼─┼─┤        ├─┼─┼─┼─┼─┤        ├─┼─┼─┼─┼─┤   ├─┼─┼─┼─┼─┤
