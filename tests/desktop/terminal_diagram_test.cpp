@@ -125,8 +125,8 @@ TEST(TerminalDiagram, FillsRowsWithinTheColumns) {
 
 TEST(TerminalDiagram, ShowsWhatIncompleteShapesHave) {
   const auto lines = terminalDiagram({"", viewOf({}, {1, 9, -7, 0}, {1, 1, 1})}, ascii);
-  EXPECT_EQ(lines[0], "         x o     ");
-  EXPECT_EQ(lines[1], "     +-+-+-+-+-+ ");
+  EXPECT_EQ(lines[0], "         x o    ");
+  EXPECT_EQ(lines[1], "     ===========");
 }
 
 TEST(TerminalDiagram, KeepsControlCharactersFromTheTerminal) {
