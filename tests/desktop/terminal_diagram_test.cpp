@@ -106,7 +106,7 @@ TEST(TerminalDiagram, FillsRowsWithinTheColumns) {
     std::size_t lines;
   };
   for (const Case& each : std::vector<Case>{{80, 0, 0},
-                                            {80, 4, 10},
+                                            {73, 4, 10},
                                             {80, 5, 21},
                                             {72, 4, 21},
                                             {16, 2, 21},
@@ -123,10 +123,15 @@ TEST(TerminalDiagram, FillsRowsWithinTheColumns) {
   }
 }
 
-TEST(TerminalDiagram, ShowsWhatIncompleteShapesHave) {
-  const auto lines = terminalDiagram({"", viewOf({}, {1, 9, -7, 0}, {1, 1, 1})}, ascii);
+// Fret 5 over fret 1 is in no row; it must not be drawn into the line of the notes.
+TEST(TerminalDiagram, ShowsWhatFitsTheBoard) {
+  ChordView view = viewOf(todaychord::testing::cMajor, {1, 5, -1, 0}, {1, 1, 1});
+  view.displayNotes = true;
+  const auto lines = terminalDiagram({"", view}, ascii);
   EXPECT_EQ(lines[0], "         x o    ");
   EXPECT_EQ(lines[1], "     ===========");
+  EXPECT_EQ(lines[2], "     1== | | | |");
+  EXPECT_EQ(lines.back(), "           G    ");
 }
 
 TEST(TerminalDiagram, KeepsControlCharactersFromTheTerminal) {
