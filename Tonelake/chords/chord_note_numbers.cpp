@@ -1,6 +1,7 @@
 #include "Tonelake/chords/chord_note_numbers.h"
 
 #include <array>
+#include <utility>
 
 #include "Tonelake/fingering/chord_positions.h"  // naming asks for a fingering: see CONTRIBUTING
 #include "Tonelake/foundation/fatal.h"
@@ -25,8 +26,14 @@ WholeNumber liftAbove(WholeNumber last, WholeNumber candidate) {
 }  // namespace
 
 WholeNumbers getNoteNumbersForChord(const Chord& chord) {
+  auto numbers = findNoteNumbersForChord(chord);
+  if (!numbers) stopWithProgrammingError("a chord without a fingering has no sound");
+  return *std::move(numbers);
+}
+
+std::optional<WholeNumbers> findNoteNumbersForChord(const Chord& chord) {
   const auto positions = getChordPositions(chord, 1, Tuning::standard);
-  if (positions.empty()) stopWithProgrammingError("a chord without a fingering has no sound");
+  if (positions.empty()) return std::nullopt;
   WholeNumbers numbers;
   for (std::size_t i = 0; i < openStrings.size(); ++i) {
     const int fret = positions.front().position[i];

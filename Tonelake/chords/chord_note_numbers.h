@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 
 #include "Tonelake/chords/chord.h"
@@ -11,6 +12,9 @@ namespace tonelake::Chords {
 /// below the sounding pitch of a guitar (the open E is 28), kept on purpose. A chord without a
 /// fingering is a programming error.
 WholeNumbers getNoteNumbersForChord(const Chord& chord);
+
+/// The same, but nothing for a chord without a fingering: for chords that come from outside.
+std::optional<WholeNumbers> findNoteNumbersForChord(const Chord& chord);
 
 /// MIDI numbers of a piano voicing, strictly ascending: `formula` holds semitones above the root
 /// (E is 40, C is 48), and a tone that would not lie above the one before it is lifted by octaves.

@@ -77,6 +77,11 @@ class DocumentBuilder final : public nlohmann::json_sax<Value> {
 }  // namespace
 
 Value parse(std::string_view text) {
+  // The parser takes a zero byte for the end of the text and would not see what follows it.
+  const std::size_t zero = text.find('\0');
+  if (zero != std::string_view::npos) {
+    throw DecodingError("not JSON (at byte " + std::to_string(zero + 1) + ")");
+  }
   DocumentBuilder builder;
   if (!Value::sax_parse(text, &builder)) throw DecodingError(builder.problem());
   return builder.take();

@@ -30,6 +30,7 @@ TEST(Json, RefusesWhatItCannotReadSafely) {
                                                       {"{} {}", "not JSON"},
                                                       {"[1e999]", "not JSON"},
                                                       {"[NaN]", "not JSON"},
+                                                      {std::string("{}\0[", 4), "not JSON"},
                                                       {"[\"\xC3\x28\"]", "not JSON"},
                                                       {nested(33), "nested deeper"},
                                                       {nested(1000000), "nested deeper"},

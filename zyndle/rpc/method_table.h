@@ -1,0 +1,33 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "Tonelake/foundation/json.h"
+#include "zyndle/rpc/method_context.h"
+
+namespace zyndle {
+
+namespace json = tonelake::json;
+
+/// One method: its result for its named parameters. Throws json::DecodingError, which names the
+/// parameter, for one that is missing, of the wrong type or breaks a precondition of the
+/// operation. Parameters that a method does not know are ignored.
+using Method = json::Value (*)(const json::Node& parameters, MethodContext& context);
+
+/// The method of this name; null when there is none.
+Method findMethod(std::string_view name);
+
+struct MethodRow {
+  std::string_view name;
+  Method method;
+};
+
+// The methods, a table for each part of the library. A new method is one line in one of them.
+std::span<const MethodRow> theoryMethods() noexcept;
+std::span<const MethodRow> chordMethods() noexcept;
+std::span<const MethodRow> fingeringMethods() noexcept;
+std::span<const MethodRow> todayMethods() noexcept;
+std::span<const MethodRow> diagramMethods() noexcept;
+
+}  // namespace zyndle
