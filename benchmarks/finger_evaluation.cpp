@@ -2,18 +2,16 @@
 //
 //   finger_evaluation SHAPES
 //
-// SHAPES holds one JSON record a line, in standard tuning, lowest string first:
-//
-//   {"root": "C", "chordType": "major", "position": [-1,3,2,0,1,0], "fingering": [0,3,2,0,1,0]}
+// SHAPES is a file as readPublishedShapes takes it.
 //
 // Published fingers that break a rule of ours cannot be met, so they are counted and left out of
 // the comparison. Shapes that differ are gathered in families: the same shape somewhere else on
 // the neck is one family, and its frets are shown counted from the lowest pressed one.
 
 #include <algorithm>
-#include <fstream>
 #include <map>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -21,18 +19,13 @@
 
 #include "Tonelake/chords/chord_data_manager.h"
 #include "Tonelake/fingering/chord_engine.h"
-#include "Tonelake/foundation/json.h"
+#include "benchmarks/published_shapes.h"
 #include "tests/support/finger_checker.h"
 
 namespace tonelake {
 namespace {
 
-struct PublishedShape {
-  std::string root;
-  std::string chordType;
-  Frets frets{};
-  Fingers fingers{};
-};
+using benchmarks::PublishedShape;
 
 // Published shapes that differ from ours in the same way.
 struct Family {
@@ -50,25 +43,6 @@ struct Comparison {
   std::map<std::string, int> kinds;
   Families families;
 };
-
-std::array<std::int8_t, Tuning::stringCount> readStrings(const json::Node& node, int lowest,
-                                                         int highest) {
-  std::array<std::int8_t, Tuning::stringCount> strings{};
-  if (node.size() != strings.size()) node.fail("expected a number for each of six strings");
-  for (std::size_t i = 0; i < strings.size(); ++i) {
-    strings[i] = static_cast<std::int8_t>(node.element(i).wholeNumber(lowest, highest));
-  }
-  return strings;
-}
-
-PublishedShape readShape(const std::string& line) {
-  constexpr int highestFret = 36;
-  const json::Value value = json::parse(line);
-  const json::Node record(value);
-  return {record.member("root").text(), record.member("chordType").text(),
-          readStrings(record.member("position"), mutedString, highestFret),
-          readStrings(record.member("fingering"), 0, littleFinger)};
-}
 
 std::string show(const Fingers& fingers) {
   std::string text;
@@ -165,20 +139,14 @@ void print(const Comparison& comparison) {
 }
 
 int run(const std::string& path) {
-  std::ifstream file(path);
-  if (!file) {
-    fmt::print(stderr, "finger_evaluation: cannot read {}\n", path);
-    return 1;
-  }
   Comparison comparison;
-  std::string line;
-  for (int number = 1; std::getline(file, line); ++number) {
-    try {
-      if (!line.empty()) compare(readShape(line), comparison);
-    } catch (const json::DecodingError& error) {
-      fmt::print(stderr, "finger_evaluation: {}:{}: {}\n", path, number, error.what());
-      return 1;
+  try {
+    for (const PublishedShape& shape : benchmarks::readPublishedShapes(path)) {
+      compare(shape, comparison);
     }
+  } catch (const std::runtime_error& error) {
+    fmt::print(stderr, "finger_evaluation: {}\n", error.what());
+    return 1;
   }
   print(comparison);
   return 0;

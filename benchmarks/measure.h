@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <vector>
 
 namespace benchmarks {
@@ -13,10 +14,19 @@ struct Timing {
   double most = 0;
 };
 
+/// What this process has used of the processors: other processes do not disturb it.
+struct ProcessorClock {
+  using duration = std::chrono::duration<double>;
+  using time_point = std::chrono::time_point<ProcessorClock, duration>;
+
+  static time_point now() {
+    return time_point(duration(static_cast<double>(std::clock()) / CLOCKS_PER_SEC));
+  }
+};
+
 /// Runs `work` once to warm up and then `runs` times.
-template <typename Work>
+template <typename Clock = std::chrono::steady_clock, typename Work>
 Timing measure(int runs, Work work) {
-  using Clock = std::chrono::steady_clock;
   work();
   std::vector<double> times;
   for (int run = 0; run < runs; ++run) {

@@ -55,7 +55,8 @@ install_packages() {
   ((${#missing[@]})) || return 0
   if (($(id -u) != 0)); then
     command -v sudo >/dev/null || fail "packages are missing, and neither root nor sudo is at hand" \
-      "to install them. As root, run: apt-get install --no-install-recommends ${missing[*]}"
+      "to install them. As root, run: apt-get update &&" \
+      "apt-get install --no-install-recommends ${missing[*]}"
     as_root=(sudo)
   fi
   say "installing with ${as_root[*]:+${as_root[*]} }apt-get: ${missing[*]}"

@@ -80,7 +80,8 @@ inline constexpr double capitalHeight = 0.7;  // of capitals and digits, in font
 
 // The number of the first row's fret stands beside the board, as far from it as a dot reaches.
 inline constexpr double baseFretGap = 10;  // from the outer string to the text
-inline constexpr double baseFretWidth = firstStringX - baseFretGap;
+inline constexpr double baseFretWidth =
+    designWidth - firstStringX - stringPitch * (stringCount - 1) - baseFretGap;  // 22
 
 // The card that a diagram hangs on: a title, the chord's tones, the diagram.
 inline constexpr double cardWidth = 150;

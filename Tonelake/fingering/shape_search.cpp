@@ -23,6 +23,7 @@
 #include <utility>
 
 #include "Tonelake/fingering/finger_assignment.h"
+#include "Tonelake/fingering/fret_spans.h"
 #include "Tonelake/fingering/shape_set.h"
 
 namespace tonelake {
@@ -35,28 +36,9 @@ constexpr int stringCount = static_cast<int>(Tuning::stringCount);
 // B string ends at fret 12, the A string at fret 14. Kept on purpose.
 constexpr int namedPitches = 24;
 
-constexpr int highestStart = 12;
-constexpr int narrowestSpan = 2;
-constexpr int widestSpan = 4;
-constexpr int fretCount = highestStart + widestSpan;
-
 constexpr PitchClassSet noteBit(int pitch) {
   return static_cast<PitchClassSet>(1U << static_cast<unsigned>(pitch) % 12);
 }
-
-// Frets as bits: bit 0 a muted string, bit n + 1 fret n.
-using FretSet = std::uint32_t;
-
-constexpr FretSet fretBit(int fret) {
-  return 1U << static_cast<unsigned>(fret + 1);
-}
-
-struct Span {
-  int width;
-  int start;
-
-  constexpr FretSet frets() const { return fretBit(start + width) - fretBit(start); }
-};
 
 // A string and where it sounds chord notes.
 struct ChordString {
@@ -64,17 +46,11 @@ struct ChordString {
   bool ringsOpen = false;  // the open string may stand in for a fret without a chord note
   std::array<PitchClassSet, fretCount> noteAt{};  // by fret
 
-  // What the string can do in a span, as a set.
-  FretSet offers(Span span) const {
-    const FretSet frets = span.frets();
-    FretSet offered = frets & chordFrets;
-    if (ringsOpen && (frets & ~chordFrets) != 0) offered |= fretBit(openString);
-    return offered != 0 ? offered : fretBit(mutedString);
-  }
+  // What the string can do in each span, by its place in fretSpans; nothing in noSpan.
+  std::array<FretSet, spanCount + 1> offers{};
 };
 
-// A set of the spans searched just before that share combinations with the present one. Shapes
-// made of nothing but what such a span offered were met there.
+// A set of FretSpan::earlier: shapes made of nothing but what such a span offered were met there.
 using EarlierSpans = std::uint8_t;
 
 constexpr EarlierSpans firstEarlierSpan = 1;
@@ -112,13 +88,8 @@ class ShapeSearch {
   }
 
   std::vector<ChordPosition> run() {
-    for (int width = narrowestSpan; width <= widestSpan; ++width) {
-      const int lastStart = width == narrowestSpan ? 0 : highestStart;
-      for (int start = 0; start <= lastStart; ++start) {
-        searchSpan({width, start});
-        if (isFull_) return std::move(main_);
-      }
-    }
+    for (std::size_t span = 0; span < spanCount && !isFull_; ++span) searchSpan(span);
+    if (isFull_) return std::move(main_);
     main_.insert(main_.end(), secondary_.begin(), secondary_.end());
     return std::move(main_);
   }
@@ -154,13 +125,23 @@ class ShapeSearch {
       string.noteAt[static_cast<std::size_t>(fret)] = noteBit(open.pitchClass + fret);
       if (isChordNote(open.pitchClass + fret)) string.chordFrets |= fretBit(fret);
     }
+    for (std::size_t span = 0; span < spanCount; ++span) {
+      string.offers[span] = offersIn(string, fretSpans[span].frets());
+    }
     return string;
   }
 
-  void searchSpan(Span span) {
-    const std::array<Span, 2> earlier = spansBefore(span);
+  // The frets of a span that sound a chord note, the open string in place of those that do not;
+  // muted when there is neither.
+  static FretSet offersIn(const ChordString& string, FretSet frets) {
+    FretSet offered = frets & string.chordFrets;
+    if (string.ringsOpen && (frets & ~string.chordFrets) != 0) offered |= fretBit(openString);
+    return offered != 0 ? offered : fretBit(mutedString);
+  }
+
+  void searchSpan(std::size_t span) {
     for (std::size_t i = stringCount; i-- > 0;) {
-      collectCandidates(i, span, earlier);
+      collectCandidates(i, fretSpans[span]);
       outlooks_[i] = outlooks_[i + 1];
       for (int c = 0; c < candidates_[i].count; ++c) {
         const Candidate& candidate = candidates_[i].list[static_cast<std::size_t>(c)];
@@ -170,28 +151,16 @@ class ShapeSearch {
     }
     Partial nothing;
     nothing.offeredIn = bothEarlierSpans;
-    if (isPromising(nothing, outlooks_[0])) extend<0>(nothing);
+    const bool hasBass = (outlooks_[1].notes & bass_) != 0;
+    if (hasBass && isPromising(nothing, outlooks_[0])) extend<0>(nothing);
   }
 
-  // The spans whose combinations `span` repeats most. Where there is only one it stands twice,
-  // and before the first span of all stands an empty one.
-  static std::array<Span, 2> spansBefore(Span span) {
-    if (span.width == narrowestSpan) return {{{0, 0}, {0, 0}}};
-    const Span narrower{span.width - 1, span.start};
-    if (span.width == widestSpan) {
-      return {{narrower, {narrower.width, std::min(span.start + 1, highestStart)}}};
-    }
-    const Span previous{span.width, span.start - 1};
-    return span.start == 0 ? std::array<Span, 2>{{narrower, narrower}}
-                           : std::array<Span, 2>{{previous, previous}};
-  }
-
-  // Every fret of the span that sounds a chord note; the open string in place of the first that
-  // does not; muted when there is neither.
-  void collectCandidates(std::size_t string, Span span, const std::array<Span, 2>& earlier) {
+  // What a string offers in a span, in order: its frets from the lowest up, the open string taking
+  // the place of the first that sounds no chord note.
+  void collectCandidates(std::size_t string, const FretSpan& span) {
     const ChordString& notes = strings_[string];
-    const FretSet first = earlier[0].width == 0 ? 0 : notes.offers(earlier[0]);
-    const FretSet second = earlier[1].width == 0 ? 0 : notes.offers(earlier[1]);
+    const FretSet first = notes.offers[span.earlier[0]];
+    const FretSet second = notes.offers[span.earlier[1]];
     Candidates& candidates = candidates_[string];
     candidates.count = 0;
     candidates.firstOtherThanBass = -1;
@@ -222,39 +191,40 @@ class ShapeSearch {
 
   bool holdsRequired(PitchClassSet notes) const { return (query_.requiredNotes & ~notes) == 0; }
 
-  // Extends a combination by each candidate of `string` in turn; complete ones are judged.
+  // Extends a combination by each candidate of `string` in turn, and judges it once the strings
+  // below cannot add a deeper bass: whatever they take, the bass rule mutes it.
   template <int string>
   void extend(const Partial partial) {
-    if constexpr (string == stringCount) {
-      if (partial.isSettled) judge(partial);
-    } else {
-      const Candidates& candidates = candidates_[string];
-      for (int c = 0; c < candidates.count; ++c) {
-        const Candidate candidate = candidates.list[static_cast<std::size_t>(c)];
-        Partial longer = partial;
-        longer.frets |= candidate.fret;
-        longer.notes |= candidate.note;
-        longer.offeredIn &= candidate.offeredIn;
-        if (string > 0 && candidate.note == bass_) {
-          // String 0 is never the bass: a root on the highest string alone is no chord.
-          longer.bassString = string;
-          longer.isSettled = holdsRequired(longer.notes);
-        } else if (c != candidates.firstOtherThanBass) {
-          longer.isSettled = false;
-        }
-        if (isPromising(longer, outlooks_[string + 1])) extend<string + 1>(longer);
-        if (isFull_) return;
+    const Candidates& candidates = candidates_[string];
+    const Outlook below = outlooks_[string + 1];
+    for (int c = 0; c < candidates.count; ++c) {
+      const Candidate candidate = candidates.list[static_cast<std::size_t>(c)];
+      Partial longer = partial;
+      longer.frets |= candidate.fret;
+      longer.notes |= candidate.note;
+      longer.offeredIn &= candidate.offeredIn;
+      if (string > 0 && candidate.note == bass_) {
+        // String 0 is never the bass: a root on the highest string alone is no chord.
+        longer.bassString = string;
+        longer.isSettled = holdsRequired(longer.notes);
+      } else if (c != candidates.firstOtherThanBass) {
+        longer.isSettled = false;
       }
+      if ((below.notes & bass_) == 0) {
+        if (longer.isSettled) judge(longer);
+      } else if constexpr (string + 1 < stringCount) {
+        if (isPromising(longer, below)) extend<string + 1>(longer);
+      }
+      if (isFull_) return;
     }
   }
 
-  // Whether the strings below can make this a new complete shape: one that no earlier span
-  // offered, with a deeper bass or with those strings silent under the bass there is.
+  // Whether the strings below, which can sound the bass note, can make this a new complete shape:
+  // one that no earlier span offered, with a deeper bass or with those strings silent.
   bool isPromising(const Partial partial, const Outlook below) const {
     if ((partial.offeredIn & below.staying) != 0) return false;
     return partial.isSettled ||
-           ((below.notes & bass_) != 0 &&
-            holdsRequired(static_cast<PitchClassSet>(partial.notes | below.notes)));
+           holdsRequired(static_cast<PitchClassSet>(partial.notes | below.notes));
   }
 
   void judge(const Partial partial) {

@@ -1,0 +1,58 @@
+#include "Tonelake/fingering/voicing_query.h"
+
+#include "Tonelake/chords/chord_data_manager.h"
+#include "Tonelake/theory/spelling_tables.h"
+
+namespace tonelake::Voicings {
+namespace {
+
+constexpr int octave = 12;
+constexpr int highestCapo = 12;
+
+PitchClassSet toneAt(int root, WholeNumber interval) {
+  return noteAt(root + static_cast<int>(interval % octave));
+}
+
+// Every tone must sound, but the perfect fifth may be left out of a chord of four or more unless
+// it is the bass.
+void setTones(const Chord& chord, const WholeNumbers& intervals, VoicingQuery& query) {
+  constexpr int fifth = 7;
+  constexpr std::size_t fewestTonesWithoutFifth = 4;
+  constexpr std::size_t tonesOfPowerChord = 2;
+  const int root = chord.rootNote.pitchClass();
+  for (const WholeNumber interval : intervals) query.chordNotes |= toneAt(root, interval);
+  query.bass = toneAt(root, intervals[static_cast<std::size_t>(chord.variant)]);
+  query.bassTone = static_cast<int>(chord.variant);
+  query.requiredNotes = query.chordNotes;
+  if (intervals.size() >= fewestTonesWithoutFifth) {
+    query.requiredNotes &= static_cast<PitchClassSet>(~toneAt(root, fifth));
+  }
+  query.requiredNotes |= query.bass;
+  query.isPowerChord = intervals.size() == tonesOfPowerChord;
+}
+
+bool setOpenPitches(const TuningNames& tuning, int capo, VoicingQuery& query) {
+  if (tuning.size() != query.openPitches.size()) return false;
+  for (std::size_t string = 0; string < tuning.size(); ++string) {
+    const auto note = noteIndexByName().find(tuning[string]);
+    if (note == noteIndexByName().end()) return false;
+    query.openPitches[string] = (note->second + capo) % octave;
+  }
+  return true;
+}
+
+}  // namespace
+
+std::optional<VoicingQuery> makeVoicingQuery(const Chord& chord, const TuningNames& tuning,
+                                             int capo) {
+  const ChordData* data = Chords::getChordData(chord.chordType);
+  if (data == nullptr || capo < 0 || capo > highestCapo) return std::nullopt;
+  const auto tones = static_cast<WholeNumber>(data->notes.size());
+  if (chord.variant < 0 || chord.variant >= tones) return std::nullopt;
+  VoicingQuery query;
+  if (!setOpenPitches(tuning, capo, query)) return std::nullopt;
+  setTones(chord, data->notes, query);
+  return query;
+}
+
+}  // namespace tonelake::Voicings

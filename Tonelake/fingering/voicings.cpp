@@ -1,0 +1,41 @@
+#include "Tonelake/fingering/voicings.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "Tonelake/fingering/voicing_query.h"
+#include "Tonelake/fingering/voicing_search.h"
+
+namespace tonelake::Voicings {
+namespace {
+
+// The best `limit` voicings in order. Numbers are sorted rather than the voicings themselves:
+// the cost above, the place below, so that equal costs stay in the order of discovery.
+std::vector<Voicing> bestFirst(const std::vector<Voicing>& voicings, WholeNumber limit) {
+  constexpr unsigned placeBits = 32;
+  std::vector<std::int64_t> order(voicings.size());
+  for (std::size_t i = 0; i < order.size(); ++i) {
+    order[i] = voicings[i].cost * (std::int64_t{1} << placeBits) + static_cast<std::int64_t>(i);
+  }
+  std::sort(order.begin(), order.end());
+  if (limit >= 0 && limit < static_cast<WholeNumber>(order.size())) {
+    order.resize(static_cast<std::size_t>(limit));
+  }
+  std::vector<Voicing> best;
+  best.reserve(order.size());
+  for (const std::int64_t entry : order) {
+    best.push_back(voicings[static_cast<std::size_t>(static_cast<std::uint32_t>(entry))]);
+  }
+  return best;
+}
+
+}  // namespace
+
+std::vector<Voicing> findVoicings(const Chord& chord, const TuningNames& tuning,
+                                  const VoicingOptions& options) {
+  const auto query = makeVoicingQuery(chord, tuning, options.capo);
+  if (!query) return {};
+  return bestFirst(searchVoicings(*query, options), options.limit);
+}
+
+}  // namespace tonelake::Voicings

@@ -1,0 +1,252 @@
+#include "TodayChordExtension/diagram/diagram_scene.h"
+
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "TodayChordExtension/diagram/diagram_layout.h"
+#include "TodayChordExtension/diagram/scene_placement.h"
+#include "tests/support/chord_views.h"
+#include "tests/support/scene_parts.h"
+
+namespace todaychord {
+namespace {
+
+using testing::barreF;
+using testing::Box;
+using testing::boxOf;
+using testing::collect;
+using testing::highDm;
+using testing::itemsOf;
+using testing::manyViews;
+using testing::openC;
+
+std::vector<Box> boxesOf(const Scene& scene) {
+  std::vector<Box> boxes;
+  for (const PathItem& path : collect<PathItem>(scene.items)) boxes.push_back(boxOf(path));
+  for (const TextItem& text : collect<TextItem>(scene.items)) boxes.push_back(boxOf(text));
+  return boxes;
+}
+
+void expectInside(const Scene& scene, const std::string& what) {
+  for (const Box& box : boxesOf(scene)) {
+    EXPECT_GE(box.left, -1e-9) << what;
+    EXPECT_GE(box.top, -1e-9) << what;
+    EXPECT_LE(box.right, scene.width + 1e-9) << what;
+    EXPECT_LE(box.bottom, scene.height + 1e-9) << what;
+  }
+}
+
+TEST(DiagramScene, HoldsEveryShapeInsideItsFrame) {
+  for (ChordView view : manyViews()) {
+    for (const bool isLeftHanded : {false, true}) {
+      view.isLeftHanded = isLeftHanded;
+      view.displayNotes = isLeftHanded;
+      const std::string what = ::testing::PrintToString(view.position);
+      expectInside(drawDiagram(view, 60), what);
+      expectInside(drawDiagramCard(view, "F♯min/maj7(add11)/WWWWWWWWWWWW", 300), what);
+    }
+  }
+}
+
+// String s (6 the lowest) lies at 33 + 14·(6 - s), from the other side for the left hand; row k
+// is centred at 23·k + 19.5.
+TEST(DiagramScene, PutsEveryDotOnItsStringInItsRow) {
+  for (ChordView view : manyViews()) {
+    for (const bool isLeftHanded : {false, true}) {
+      view.isLeftHanded = isLeftHanded;
+      const DiagramLayout layout = layOutDiagram(view, 135);
+      const Scene scene = drawDiagram(view, 135);
+      for (int string = 1; string <= 6; ++string) {
+        const auto number = std::to_string(string);
+        const double x = isLeftHanded ? 33 + 14 * (string - 1) : 33 + 14 * (6 - string);
+        const auto strings = collect<PathItem>(itemsOf("string-" + number, scene.items));
+        ASSERT_EQ(strings.size(), 1U);
+        EXPECT_DOUBLE_EQ(boxOf(strings.front()).centre().x, x);
+        const auto fret = view.position[static_cast<std::size_t>(6 - string)];
+        const auto faces = collect<PathItem>(itemsOf("dot-" + number, scene.items));
+        ASSERT_EQ(faces.empty(), fret <= 0) << ::testing::PrintToString(view.position);
+        for (const PathItem& face : faces) {
+          EXPECT_NEAR(boxOf(face).centre().x, x, 1e-9);
+          EXPECT_NEAR(boxOf(face).centre().y, 23 * double(fret - layout.baseFret + 1) + 19.5, 1e-9);
+        }
+      }
+    }
+  }
+}
+
+// The board's middle lies at 68.
+TEST(DiagramScene, IsMirroredForTheLeftHand) {
+  const auto mirrored = [](Box box) {
+    return Box{136 - box.right, box.top, 136 - box.left, box.bottom};
+  };
+  for (ChordView view : manyViews()) {
+    const std::vector<Box> right = boxesOf(drawDiagram(view, 135));
+    view.isLeftHanded = true;
+    const std::vector<Box> left = boxesOf(drawDiagram(view, 135));
+    ASSERT_EQ(left.size(), right.size());
+    for (const Box& box : right) {
+      const Box wanted = mirrored(box);
+      EXPECT_TRUE(std::any_of(left.begin(), left.end(), [&](const Box& other) {
+        return std::abs(other.left - wanted.left) + std::abs(other.right - wanted.right) +
+                   std::abs(other.top - wanted.top) + std::abs(other.bottom - wanted.bottom) <
+               1e-9;
+      })) << ::testing::PrintToString(view.position);
+    }
+  }
+}
+
+TEST(DiagramScene, WritesTheBaseFretBesideRowOneOrDrawsTheNut) {
+  struct Case {
+    ChordView view;
+    bool isLeftHanded;
+    std::string text;
+    TextAnchor anchor;
+  };
+  for (const Case& each : std::vector<Case>{{highDm(), false, "5fr", TextAnchor::end},
+                                            {highDm(), true, "5fr", TextAnchor::start},
+                                            {barreF(), false, "", TextAnchor::end}}) {
+    ChordView view = each.view;
+    view.isLeftHanded = each.isLeftHanded;
+    view.displayFingering = false;
+    const Scene scene = drawDiagram(view, 135);
+    const auto texts = collect<TextItem>(scene.items);
+    const auto paths = collect<PathItem>(scene.items);
+    const bool hasNut = std::any_of(paths.begin(), paths.end(), [&](const PathItem& path) {
+      return path.fill == Paint(view.stringColor);
+    });
+    EXPECT_EQ(hasNut, each.text.empty());
+    ASSERT_EQ(texts.size(), each.text.empty() ? 0U : 1U);
+    if (texts.empty()) continue;
+    EXPECT_EQ(texts.front().text, each.text);
+    EXPECT_EQ(texts.front().anchor, each.anchor);
+    EXPECT_DOUBLE_EQ(boxOf(texts.front()).centre().y, 23 + 19.5);
+  }
+}
+
+TEST(DiagramScene, JoinsTheDotsOfABarre) {
+  const auto isBarre = [](const PathItem& path, double left, double right, double y) {
+    const Box box = boxOf(path);
+    return box.left == left && box.right == right && std::abs(box.centre().y - y) < 1e-9 &&
+           std::abs(box.bottom - box.top - 4) < 1e-9;
+  };
+  const auto paths = collect<PathItem>(drawDiagram(barreF(), 135).items);
+  for (const auto& [left, right] : {std::pair(33.0, 89.0), std::pair(89.0, 103.0)}) {
+    EXPECT_EQ(std::count_if(paths.begin(), paths.end(),
+                            [&](const PathItem& path) { return isBarre(path, left, right, 42.5); }),
+              1);
+  }
+}
+
+TEST(DiagramScene, NumbersTheFingersThatItKnows) {
+  ChordView view = openC();
+  view.fingering = {0, 3, -1, 0, 5, 0};
+  const auto numbers = collect<TextItem>(drawDiagram(view, 135).items);
+  ASSERT_EQ(numbers.size(), 1U);
+  EXPECT_EQ(numbers.front().text, "3");
+  EXPECT_EQ(numbers.front().font, (Font{"SpaceGrotesk-SemiBold", 11.7}));
+  EXPECT_DOUBLE_EQ(numbers.front().baseline.x, 47);
+  view.displayFingering = false;
+  EXPECT_TRUE(collect<TextItem>(drawDiagram(view, 135).items).empty());
+}
+
+// Strings keep their number, and with it highlight and swing, when the picture is mirrored.
+TEST(DiagramScene, HighlightsAndBendsStringsByNumber) {
+  ChordView view = openC();
+  view.highlightStrings = {1, 3};
+  view.displacement = {0, 0, 0, 0, 0, 5};
+  for (const bool isLeftHanded : {false, true}) {
+    view.isLeftHanded = isLeftHanded;
+    const Scene scene = drawDiagram(view, 270);
+    for (int string = 1; string <= 6; ++string) {
+      const auto path =
+          collect<PathItem>(itemsOf("string-" + std::to_string(string), scene.items)).at(0);
+      const auto& stops = std::get<LinearGradient>(path.stroke->paint).stops;
+      EXPECT_EQ(stops, string == 1   ? view.stringHighlightGradient
+                       : string == 3 ? view.stringHighlightGradientPlain
+                                     : view.stringColorGradient)
+          << string;
+      const bool isOuter = string == 1 || string == 6;
+      EXPECT_DOUBLE_EQ(path.stroke->width, isOuter ? 3.5 : 2.5);
+      const double bend =
+          std::get<CurveTo>(path.path[1]).control1.x - std::get<MoveTo>(path.path[0]).to.x;
+      EXPECT_DOUBLE_EQ(bend, string == 1 ? 10 : 0);
+    }
+  }
+}
+
+TEST(DiagramScene, LeavesOutWhatFitsNoRowOrString) {
+  ChordView view = testing::viewOf({}, {1, 9, -1, -7, -1, -1, 2, 3}, {1, 1, 1, 1, 1, 1, 1, 1});
+  for (const bool isLeftHanded : {false, true}) {
+    view.isLeftHanded = isLeftHanded;
+    expectInside(drawDiagram(view, 135), "too many");
+  }
+  const Scene empty = drawDiagram(testing::viewOf({}, {}, {}), 135);
+  EXPECT_EQ(empty.title, "");
+  EXPECT_EQ(empty.description, "");
+  expectInside(empty, "empty");
+}
+
+TEST(DiagramScene, ScalesAsAWhole) {
+  const Scene once = drawDiagram(highDm(), 135);
+  const Scene twice = drawDiagram(highDm(), 270);
+  EXPECT_EQ(twice.items, placed(once.items, {{0, 0}, 2}));
+  EXPECT_EQ(twice.height, 2 * once.height);
+  EXPECT_EQ(drawDiagram(highDm(), 10), drawDiagram(highDm(), 67.5));
+}
+
+TEST(DiagramScene, SaysWhatItShows) {
+  const Scene scene = drawDiagram(openC(), 135);
+  EXPECT_EQ(scene.title, "C major");
+  EXPECT_EQ(scene.description,
+            "Place the 1st finger on the 1st fret of the 2nd string. Place the 2nd finger on the "
+            "2nd fret of the 4th string. Place the 3rd finger on the 3rd fret of the 5th string. "
+            "Let ring the first and third strings in open positions. Mute the sixth string.");
+  const Scene card = drawDiagramCard(openC(), "Today", 300);
+  EXPECT_EQ(card.title, "Today");
+  EXPECT_EQ(card.description, scene.description);
+}
+
+// Relative luminance and contrast as the web's accessibility guidelines define them.
+double luminance(const Color& color) {
+  const auto channel = [&](unsigned shift) {
+    const double value = (color.rgb >> shift & 0xFFU) / 255.0;
+    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * channel(16) + 0.7152 * channel(8) + 0.0722 * channel(0);
+}
+
+Color over(const Color& front, const Color& back) {
+  std::uint32_t rgb = 0;
+  for (const unsigned shift : {0U, 8U, 16U}) {
+    const double mixed = front.opacity * (front.rgb >> shift & 0xFFU) +
+                         (1 - front.opacity) * (back.rgb >> shift & 0xFFU);
+    rgb |= static_cast<std::uint32_t>(std::lround(mixed)) << shift;
+  }
+  return {rgb};
+}
+
+double contrast(const Color& text, const Color& back) {
+  const double a = luminance(over(text, back));
+  const double b = luminance(back);
+  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+TEST(DiagramScene, HasReadableColours) {
+  constexpr double readable = 4.5;
+  const ChordView view;
+  EXPECT_GE(contrast(palette::cardTitle, palette::card), readable);
+  EXPECT_GE(contrast(palette::accent, palette::card), readable);
+  EXPECT_GE(contrast(view.stringColor, palette::card), readable);
+  for (const auto& stops : {palette::dot, palette::dotIncreasedContrast}) {
+    for (const ColorStop& stop : stops) {
+      EXPECT_GE(contrast(palette::dotNumber, stop.color), readable) << stop.place;
+    }
+  }
+  for (const ColorStop& stop : palette::glass) {
+    EXPECT_GE(contrast(palette::glassNumber, over(stop.color, view.fillColor)), readable);
+  }
+}
+
+}  // namespace
+}  // namespace todaychord
