@@ -64,7 +64,7 @@ std::shared_ptr<tonelake::SettingsStore> makeStandardSettings(
   return makeLazySettingsStore([file, diagnostics]() -> std::shared_ptr<tonelake::SettingsStore> {
     auto [store, problem] = openSettingsFile(file, diagnostics);
     if (store != nullptr) return store;
-    diagnostics->write(problem);
+    diagnostics->write(problem + "; generated positions are not kept");
     return tonelake::makeMemorySettingsStore();
   });
 }

@@ -57,6 +57,8 @@ void expectContract(tonelake::SettingsStore& store) {
     store.remove(key);
     EXPECT_EQ(store.boolean(key), std::nullopt) << key;
   }
+  store.setData({}, {});  // views that point nowhere
+  EXPECT_EQ(store.data(""), "");
 }
 
 TEST_F(SqliteSettingsStoreTest, KeepsWhatEveryStoreKeeps) {
@@ -149,6 +151,12 @@ TEST_F(SqliteSettingsStoreTest, ReportsALostTableOnce) {
   EXPECT_NE(store->write({"a", SettingType::text, "b"}), std::nullopt) << "told each time";
   EXPECT_NE(store->list().problem, std::nullopt);
   EXPECT_NE(store->find("a").problem, std::nullopt);
+
+  EXPECT_TRUE(
+      openPlainly(file)->execute("CREATE TABLE settings(key TEXT PRIMARY KEY, type, value)"))
+      << "a failed write keeps no lock";
+  store->setText("a", "b");
+  EXPECT_EQ(store->text("a"), "b");
 }
 
 TEST_F(SqliteSettingsStoreTest, RefusesSettingsOfMoreThanAMebibyte) {
