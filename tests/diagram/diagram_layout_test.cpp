@@ -12,8 +12,6 @@ namespace todaychord {
 namespace {
 
 using ::testing::ElementsAre;
-using todaychord::testing::barreF;
-using todaychord::testing::highDm;
 using todaychord::testing::openC;
 using todaychord::testing::viewOf;
 
