@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 
 #include "Desktop/lazy_settings_store.h"
+#include "Desktop/write_behind_store.h"
 
 namespace desktop {
 namespace {

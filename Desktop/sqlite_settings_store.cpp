@@ -1,5 +1,6 @@
 #include "Desktop/sqlite_settings_store.h"
 
+#include <algorithm>
 #include <chrono>
 #include <thread>
 #include <utility>
@@ -122,10 +123,9 @@ void SqliteSettingsStore::report(const std::optional<std::string>& problem) cons
 
 // Takes the file's lock for writing at once: a transaction that began by reading could find itself
 // behind another process's write and fail without waiting.
-std::optional<std::string> SqliteSettingsStore::runInTransaction(
-    SqliteStatement& statement, std::initializer_list<SqliteParameter> parameters) {
+std::optional<std::string> SqliteSettingsStore::inTransaction(const std::function<bool()>& write) {
   const std::lock_guard lock(mutex_);
-  if (begin_.run() && statement.run(parameters) && commit_.run()) return std::nullopt;
+  if (begin_.run() && write() && commit_.run()) return std::nullopt;
   const std::string wrong = problem();
   database_->execute("ROLLBACK");  // fails harmlessly where no transaction was begun
   return wrong;
@@ -137,7 +137,9 @@ std::optional<std::string> SqliteSettingsStore::store(std::string_view key, Sett
     return file_ + ": the setting \"" + std::string(key.substr(0, 64)) + "\" is longer than " +
            std::to_string(longestSetting) + " bytes";
   }
-  return runInTransaction(upsert_, {Parameter::text(key), Parameter::text(nameOf(type)), value});
+  return inTransaction([&] {
+    return upsert_.run({Parameter::text(key), Parameter::text(nameOf(type)), value});
+  });
 }
 
 std::optional<std::string> SqliteSettingsStore::write(const Setting& setting) {
@@ -153,7 +155,7 @@ std::optional<std::string> SqliteSettingsStore::write(const Setting& setting) {
 }
 
 std::optional<std::string> SqliteSettingsStore::erase(std::string_view key) {
-  return runInTransaction(delete_, {Parameter::text(key)});
+  return inTransaction([&] { return delete_.run({Parameter::text(key)}); });
 }
 
 SqliteSettingsStore::Answer<std::optional<Setting>> SqliteSettingsStore::find(
@@ -213,6 +215,16 @@ void SqliteSettingsStore::setBoolean(std::string_view key, bool value) {
 
 void SqliteSettingsStore::setData(std::string_view key, std::string_view value) {
   report(store(key, SettingType::data, Parameter::data(value)));
+}
+
+void SqliteSettingsStore::setAllData(
+    const std::map<std::string, std::string, std::less<>>& pieces) {
+  report(inTransaction([&] {
+    return std::all_of(pieces.begin(), pieces.end(), [&](const auto& piece) {
+      return upsert_.run({Parameter::text(piece.first), Parameter::text(nameOf(SettingType::data)),
+                          Parameter::data(piece.second)});
+    });
+  }));
 }
 
 void SqliteSettingsStore::remove(std::string_view key) {

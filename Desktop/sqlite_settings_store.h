@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -66,12 +68,15 @@ class SqliteSettingsStore final : public tonelake::SettingsStore {
   void setData(std::string_view key, std::string_view value) override;
   void remove(std::string_view key) override;
 
+  /// Several pieces of data, by key, in one transaction: all of them or none. Problems as above.
+  void setAllData(const std::map<std::string, std::string, std::less<>>& pieces);
+
  private:
   SqliteSettingsStore(std::string file, std::unique_ptr<SqliteDatabase> database,
                       std::shared_ptr<tonelake::Diagnostics> diagnostics);
 
-  std::optional<std::string> runInTransaction(SqliteStatement& statement,
-                                              std::initializer_list<SqliteParameter> parameters);
+  // `write` runs statements and tells whether they succeeded.
+  std::optional<std::string> inTransaction(const std::function<bool()>& write);
   std::optional<std::string> store(std::string_view key, SettingType type,
                                    const SqliteParameter& value);
   std::optional<std::string> value(std::string_view key, SettingType type) const;

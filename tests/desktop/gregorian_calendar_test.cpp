@@ -8,11 +8,13 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/desktop/recording_diagnostics.h"
 #include "tests/desktop/system_local_time.h"
+#include "tests/support/recording_diagnostics.h"
 
 namespace desktop {
 namespace {
+
+using tonelake::testing::RecordingDiagnostics;
 
 using std::chrono::microseconds;
 using tonelake::Instant;

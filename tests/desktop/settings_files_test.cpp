@@ -4,11 +4,13 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/desktop/recording_diagnostics.h"
 #include "tests/desktop/temporary_folder.h"
+#include "tests/support/recording_diagnostics.h"
 
 namespace desktop {
 namespace {
+
+using tonelake::testing::RecordingDiagnostics;
 
 TEST(SettingsFiles, LieInTheUsersDataFolder) {
   struct Row {

@@ -8,11 +8,14 @@
 
 #include "Desktop/files.h"
 #include "Desktop/lazy_settings_store.h"
-#include "tests/desktop/recording_diagnostics.h"
+#include "Desktop/write_behind_store.h"
 #include "tests/desktop/temporary_folder.h"
+#include "tests/support/recording_diagnostics.h"
 
 namespace desktop {
 namespace {
+
+using tonelake::testing::RecordingDiagnostics;
 
 using namespace std::string_literals;
 
@@ -65,7 +68,32 @@ TEST_F(SqliteSettingsStoreTest, KeepsWhatEveryStoreKeeps) {
   expectContract(*open(file));
   expectContract(*tonelake::makeMemorySettingsStore());
   expectContract(*makeLazySettingsStore(tonelake::makeMemorySettingsStore));
+  expectContract(*makeWriteBehindStore(open(folder.path("behind.sqlite"))));
   EXPECT_EQ(diagnostics->lines(), std::vector<std::string>());
+}
+
+TEST_F(SqliteSettingsStoreTest, KeepsBehindTheBackOfManyThreads) {
+  constexpr int threadCount = 4;
+  constexpr int writes = 100;
+  {
+    const auto store = makeWriteBehindStore(open(file));
+    std::vector<std::jthread> threads;
+    for (int thread = 0; thread < threadCount; ++thread) {
+      threads.emplace_back([&, thread] {
+        for (int i = 0; i < writes; ++i) {
+          const std::string key = std::to_string(thread) + "-" + std::to_string(i % 10);
+          store->setData(key, std::to_string(i));
+          EXPECT_EQ(store->data(key), std::to_string(i));
+          if (i % 25 == 0) store->remove(key);
+        }
+      });
+    }
+  }
+  const auto kept = open(file)->list().value;
+  EXPECT_EQ(kept.size(), threadCount * 10U);
+  for (const Setting& setting : kept) {
+    EXPECT_EQ(setting.value, "9" + setting.key.substr(2)) << setting.key;
+  }
 }
 
 TEST_F(SqliteSettingsStoreTest, ListsAfterReopeningWhatWasWritten) {

@@ -12,11 +12,13 @@
 #include <unistd.h>
 
 #include "Desktop/settings_files.h"
-#include "tests/desktop/recording_diagnostics.h"
 #include "tests/desktop/temporary_folder.h"
+#include "tests/support/recording_diagnostics.h"
 
 namespace desktop {
 namespace {
+
+using tonelake::testing::RecordingDiagnostics;
 
 // Runs `work` in a process of its own, whose exit status is what `work` returns.
 pid_t start(const std::function<int()>& work) {
