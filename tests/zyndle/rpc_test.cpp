@@ -99,7 +99,8 @@ TEST(Rpc, FollowsTheProtocol) {
       {withId("18446744073709551615"), unison("18446744073709551615")},
       {withId("12345678901234567890123"), unison("12345678901234567890123")},
       {withId("1.50"), unison("1.50")},
-      {asking(R"("x":{"id":2.5},"id":1e3,"y":[{"id":3.5}],"jsonrpc":"2.0")"), unison("1e3")},
+      {asking(R"("x":{"id":2.5},"id":1e3,"y":[{"id":3.5}],"z":4.5,"jsonrpc":"2.0")"),
+       unison("1e3")},
       {asking(R"("id":1.5,"jsonrpc":"2.0","id":2.5)"), unison("2.5")},
       {withId("true"), refusal("null", -32600, badId)},
       {withId("[1]"), refusal("null", -32600, badId)},
@@ -133,7 +134,7 @@ TEST(Rpc, FollowsTheProtocol) {
       // Batches.
       {"[]", refusal("null", -32600, "a batch holds at least one request")},
       {"[" + notification + "," + notification + "]", ""},
-      {"[" + withId("1") + "]", "[" + unison("1") + "]"},
+      {"[" + notification + "," + withId("1") + "]", "[" + unison("1") + "]"},
       {"[1.5," + withId("2.50") + "," + notification + ",[" + withId("3") + "]," + withId("4.5") +
            "]",
        "[" + noRequest + "," + unison("2.50") + "," + noRequest + "," + unison("4.5") + "]"},
@@ -141,7 +142,7 @@ TEST(Rpc, FollowsTheProtocol) {
   for (const auto& [line, answer] : rows) {
     std::vector<std::string> expected{answer, pong};
     if (answer.empty()) expected.erase(expected.begin());
-    EXPECT_EQ(answersTo(line + "\n" + ping + "\n"), expected) << line;
+    EXPECT_EQ(answersTo(std::string(line).append("\n").append(ping)), expected) << line;
   }
 }
 
@@ -344,8 +345,10 @@ TEST(Rpc, GivesFingeringsDaysAndDiagrams) {
 // The machine's own calendar is UTC here; midnight comes nine hours earlier in Tokyo.
 TEST(Rpc, AsksTheCalendarOfTheZone) {
   const auto chordAt = [](const std::string& instant, const std::string& more) {
-    const auto answers = answersTo(
-        request("chordOfTheDay", R"({"category":"jazz","for":")" + instant + "\"" + more + "}"));
+    const std::string line =
+        request("chordOfTheDay", R"({"category":"jazz","for":")" + instant + "\"" + more + "}");
+    const auto answers = answersTo(std::string(line).append("\n").append(line));
+    EXPECT_EQ(answers.at(0), answers.at(1)) << "the zone's calendar is kept";
     return json::parse(answers.at(0)).at("result");
   };
   const std::string tokyo = R"(,"timeZone":"Asia/Tokyo")";

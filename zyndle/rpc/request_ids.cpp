@@ -31,7 +31,7 @@ class NumberIdReader final : public nlohmann::json_sax<json::Value> {
   }
 
   bool key(string_t& name) override {
-    if (depth_ == requestDepth_) isId_ = name == "id";
+    isId_ = name == "id";
     return true;
   }
 
