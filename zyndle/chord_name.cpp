@@ -31,7 +31,7 @@ struct Wording {
 // What players write for a quality, and how the dictionary's short names have it. The first
 // match wins, so longer wordings precede their own beginnings.
 // clang-format off
-constexpr std::array<Wording, 35> wordings{{
+constexpr std::array<Wording, 37> wordings{{
     {"half-diminishedminor7th", "m7♭5"},
     {"half-diminished",         "m7♭5"},
     {"dominant",                ""},
@@ -61,6 +61,8 @@ constexpr std::array<Wording, 35> wordings{{
     {"2nd",                     "2"},
     {"3rd",                     "3"},
     {"no3",                     "5"},
+    {"-sharp",                  "♯"},
+    {"-flat",                   "♭"},
     {"-",                       "m"},
     {"°",                       "dim"},
     {"ø7",                      "m7♭5"},
@@ -70,18 +72,10 @@ constexpr std::array<Wording, 35> wordings{{
 }};
 // clang-format on
 
-char lowercase(char letter) {
-  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
-char uppercase(char letter) {
-  return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-}
-
 bool startsWithWording(std::string_view text, std::string_view wording) {
   return text.size() >= wording.size() &&
          std::equal(wording.begin(), wording.end(), text.begin(),
-                    [](char wanted, char typed) { return wanted == lowercase(typed); });
+                    [](char wanted, char typed) { return wanted == tonelake::lowercase(typed); });
 }
 
 std::string withoutCharacters(std::string_view text, std::string_view unwanted) {
@@ -103,15 +97,17 @@ std::string tidied(std::string_view typed) {
 }
 
 std::string withCapital(std::string name) {
-  if (!name.empty()) name.front() = uppercase(name.front());
+  if (!name.empty()) name.front() = tonelake::uppercase(name.front());
   return name;
+}
+
+std::string withSigns(std::string_view name) {
+  return tonelake::replaceAll(tonelake::replaceAll(name, "#", "♯"), "b", "♭");
 }
 
 // The note that a whole text names, in any writing of its sign.
 std::optional<Note> readNote(std::string_view text) {
-  const std::string capital = withCapital(std::string(text));
-  return Note::fromRawValue(
-      tonelake::replaceAll(tonelake::replaceAll(capital, "#", "♯"), "b", "♭"));
+  return Note::fromRawValue(withSigns(withCapital(std::string(text))));
 }
 
 // The parts before and after the last "/", if a note follows it: "C6/9" has no bass.
@@ -184,8 +180,7 @@ std::string plainChordName(std::string_view typed) {
     name = parts->first;
     bass = "/" + std::string(parts->second.rawValue());
   }
-  // The root is set apart first: the sign of "Bb" is no part of the quality, nor is the letter.
-  name = tonelake::replaceAll(tonelake::replaceAll(name, "#", "♯"), "b", "♭");
+  name = withSigns(name);
   return name.substr(0, 1) +
          plainQuality(std::string_view(name).substr(std::min<std::size_t>(1, name.size()))) + bass;
 }

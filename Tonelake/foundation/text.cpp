@@ -82,6 +82,14 @@ std::string quoted(std::string_view text) {
   return '"' + std::string(text.substr(0, end)) + "...\"";
 }
 
+char lowercase(char letter) noexcept {
+  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
+char uppercase(char letter) noexcept {
+  return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+}
+
 bool isValidUtf8(std::string_view text) noexcept {
   while (!text.empty()) {
     const std::size_t length = characterLength(text);

@@ -28,6 +28,10 @@ std::vector<std::string_view> splitCharacters(std::string_view text);
 /// characters, and ends in "...".
 std::string quoted(std::string_view text);
 
+/// Letters A to Z and a to z in the other case; every other byte as it is.
+char lowercase(char letter) noexcept;
+char uppercase(char letter) noexcept;
+
 /// Whether `text` is well-formed UTF-8 (no overlong forms, no surrogates, nothing above U+10FFFF).
 bool isValidUtf8(std::string_view text) noexcept;
 

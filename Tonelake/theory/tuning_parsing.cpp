@@ -41,14 +41,6 @@ constexpr std::array<NamedTuning, 16> namedTuningTable{{
 
 enum class FollowingB { isFlat, isNote };
 
-char lowercase(char letter) {
-  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
-char uppercase(char letter) {
-  return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-}
-
 bool startsWith(std::string_view text, std::string_view start) {
   return text.substr(0, start.size()) == start;
 }

@@ -48,6 +48,16 @@ std::vector<char*> pointersTo(const std::vector<std::string>& texts) {
   return pointers;
 }
 
+int openOutput(const ProgramRun& run, int capture) {
+  if (run.readerIsGone) {
+    std::array<int, 2> ends{};
+    if (::pipe(ends.data()) != 0) std::abort();
+    ::close(ends[0]);
+    return ends[1];
+  }
+  return run.outputFile.empty() ? ::dup(capture) : ::open(run.outputFile.c_str(), O_WRONLY);
+}
+
 }  // namespace
 
 ProgramResult runProgram(const ProgramRun& run) {
@@ -57,19 +67,18 @@ ProgramResult runProgram(const ProgramRun& run) {
   input.fill(run.input);
   const std::vector<char*> arguments = pointersTo(run.arguments);
   const std::vector<char*> environment = pointersTo(run.environment);
-  const int outputFile =
-      run.outputFile.empty() ? output.descriptor() : ::open(run.outputFile.c_str(), O_WRONLY);
+  const int standardOutput = openOutput(run, output.descriptor());
   const pid_t child = ::fork();
   if (child == 0) {
     ::dup2(input.descriptor(), STDIN_FILENO);
-    ::dup2(outputFile, STDOUT_FILENO);
+    ::dup2(standardOutput, STDOUT_FILENO);
     ::dup2(errors.descriptor(), STDERR_FILENO);
     ::execve(arguments.front(), arguments.data(), environment.data());
     ::_exit(127);
   }
   int status = 0;
   ::waitpid(child, &status, 0);
-  if (!run.outputFile.empty()) ::close(outputFile);
+  ::close(standardOutput);
   const int exitStatus = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
   return {exitStatus, output.contents(), errors.contents()};
 }

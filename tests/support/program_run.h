@@ -9,7 +9,8 @@ struct ProgramRun {
   std::vector<std::string> arguments;    ///< the program's path first
   std::vector<std::string> environment;  ///< all of it: "TZ=UTC"
   std::string input;
-  std::string outputFile;  ///< where standard output goes; "" to capture it
+  std::string outputFile;     ///< where standard output goes; "" to capture it
+  bool readerIsGone = false;  ///< standard output is a pipe that nobody reads
 };
 
 struct ProgramResult {

@@ -52,6 +52,8 @@ TEST(ChordName, ReadsWhatPlayersType) {
       {"CΔ", {Note::C, "major 7th", 0}},
       {"E°7", {Note::E, "diminished 7th", 0}},
       {"E SUS4", {Note::E, "suspended 4th", 0}},
+      {"e-flat major", {Note::Ef, "major", 0}},
+      {"F sharp minor 7 flat 5", {Note::Fs, "minor 7th flat 5", 0}},
       {"E suspended 4", {Note::E, "suspended 4th", 0}},
       {"D add9", {Note::D, "major add 9", 0}},
       {"Dm(add9)", {Note::D, "minor add 9", 0}},

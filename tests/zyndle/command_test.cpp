@@ -266,6 +266,15 @@ TEST_F(Command, TellsWhatItCannotDo) {
   }
 }
 
+TEST_F(Command, EndsQuietlyWhenNobodyReads) {
+  tonelake::testing::ProgramRun program{{ZYNDLE_PROGRAM, "chord", "C"}, {}, "", ""};
+  program.environment = {"TZ=UTC", "XDG_DATA_HOME=" + folder_.path()};
+  program.readerIsGone = true;
+  const ProgramResult result = runProgram(program);
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.errors, "");
+}
+
 TEST_F(Command, NamesSharedSettingsThatCannotBeOpened) {
   std::filesystem::create_directory(folder_.path("zyndle"));
   folder_.write("zyndle/shared.sqlite", "This is no database, however long one looks at it.");
