@@ -16,8 +16,4 @@ if(ZYNDLE_SANITIZE)
     # without them keep the warning.
     -Wno-maybe-uninitialized)
   target_link_options(zyndle_compile_options INTERFACE -fsanitize=${ZYNDLE_SANITIZE})
-  # Instrumented, GCC takes the unused alternatives of a std::variant for uninitialised values.
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    target_compile_options(zyndle_compile_options INTERFACE -Wno-maybe-uninitialized)
-  endif()
 endif()
