@@ -18,7 +18,15 @@ bool isRepresentable(Instant instant) {
          dayOf(instant) <= chrono::sys_days(chrono::year(lastYear) / 12 / 31);
 }
 
-chrono::year_month toChrono(YearMonth month) {
+bool isBetween(int number, int lowest, int highest) {
+  return number >= lowest && number <= highest;
+}
+
+// Nothing for what is no month: the standard's own types would take year 67560 for 2024.
+std::optional<chrono::year_month> toChrono(YearMonth month) {
+  if (!isBetween(month.year, firstYear, lastYear) || !isBetween(month.month, 1, 12)) {
+    return std::nullopt;
+  }
   return chrono::year(month.year) / chrono::month(static_cast<unsigned>(month.month));
 }
 
@@ -53,16 +61,20 @@ class UtcCalendar final : public Calendar {
   }
 
   std::optional<int> lastDayOfMonth(YearMonth month) const override {
-    if (!toChrono(month).ok()) return std::nullopt;
-    const chrono::year_month_day_last last(toChrono(month) / chrono::last);
+    const auto standard = toChrono(month);
+    if (!standard) return std::nullopt;
+    const chrono::year_month_day_last last(*standard / chrono::last);
     return static_cast<int>(static_cast<unsigned>(last.day()));
   }
 
   std::optional<Instant> instant(const LocalTime& time) const override {
-    const chrono::year_month_day day(toChrono({time.year, time.month}) /
-                                     chrono::day(static_cast<unsigned>(time.day)));
-    if (!day.ok()) return std::nullopt;
-    return Instant(chrono::sys_days(day)) + chrono::hours(time.hour) +
+    const auto lastDay = lastDayOfMonth({time.year, time.month});
+    if (!lastDay || !isBetween(time.day, 1, *lastDay) || !isBetween(time.hour, 0, 23) ||
+        !isBetween(time.minute, 0, 59) || !isBetween(time.second, 0, 59)) {
+      return std::nullopt;
+    }
+    const chrono::sys_days firstDay(*toChrono({time.year, time.month}) / 1);
+    return Instant(firstDay + chrono::days(time.day - 1)) + chrono::hours(time.hour) +
            chrono::minutes(time.minute) + chrono::seconds(time.second);
   }
 

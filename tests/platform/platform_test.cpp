@@ -18,6 +18,9 @@ TEST(UtcCalendar, AnswersOrSaysNothing) {
   EXPECT_EQ(calendar->lastDayOfMonth({1900, 2}), 28);
   EXPECT_EQ(calendar->lastDayOfMonth({2024, 13}), std::nullopt);
   EXPECT_EQ(calendar->instant({2023, 2, 29, 8, 0, 0}), std::nullopt);
+  EXPECT_EQ(calendar->lastDayOfMonth({67560, 2}), std::nullopt);
+  EXPECT_EQ(calendar->instant({2024, 257, 1, 0, 0, 0}), std::nullopt);
+  EXPECT_EQ(calendar->instant({2024, 1, 1, 24, 0, 0}), std::nullopt);
   EXPECT_EQ(calendar->instant({1969, 12, 31, 23, 0, 0}), Instant() - hour);
 }
 
