@@ -7,6 +7,7 @@ source "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/tools/set_up.sh"
 
 program=$root/build/release/zyndle/zyndle
 stamp=$root/build/release/up-to-date
+libraries=$root/build/release/shared-libraries
 
 # What the program is made of. Folders count too: their time changes when a file is added or
 # removed.
@@ -14,9 +15,14 @@ sources=(CMakeLists.txt CMakePresets.json cmake tools/set_up.sh
   Tonelake TodayChordExtension Desktop zyndle)
 
 # One pass over the tree instead of dpkg, cmake and ninja: most calls find nothing to do, and they
-# should cost nothing.
+# should cost nothing. A built tree can outlive the machine it was built on, hence the look at the
+# libraries.
 is_up_to_date() {
-  [[ -x $program && -f $stamp ]] || return 1
+  local library
+  [[ -x $program && -f $stamp && -f $libraries ]] || return 1
+  while read -r library; do
+    [[ -e $library ]] || return 1
+  done <"$libraries"
   [[ -z $(find "${sources[@]/#/$root/}" -newer "$stamp" -print -quit) ]]
 }
 
@@ -28,6 +34,7 @@ bring_up_to_date() (
   touch "$root/build/started"
   [[ -x $program ]] || say "building zyndle, which takes a few minutes the first time"
   build release zyndle
+  ldd "$program" | sed -n 's|.* => \(/[^ ]*\).*|\1|p' >"$libraries"
   mv "$root/build/started" "$stamp"
 )
 

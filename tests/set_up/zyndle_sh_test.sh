@@ -19,12 +19,13 @@ write_stand_ins() {
   local tool
   mkdir "$world/bin"
   # Nothing else is found, so that a sudo of this machine is not.
-  for tool in bash cat dirname env find flock grep mkdir mv readlink rmdir sleep touch chmod; do
+  for tool in bash cat dirname env find flock grep mkdir mv readlink rmdir sed sleep touch chmod; do
     ln -s "$(command -v "$tool")" "$world/bin/$tool"
   done
   write_stand_in id <<<'cat "$world/user"'
   write_stand_in dpkg-query <<<'cat "$world/packages"; exit 1'
   write_stand_in apt-get <<<'cat; [[ ! -e $world/offline ]] || { echo "E: no network"; exit 100; }'
+  write_stand_in ldd <<<'echo "  libfmt.so.9 => $world/tree/libfmt.so.9 (0x7f01)"'
   write_stand_in cmake <<'END'
 cat
 if [[ $1 != --build ]]; then
@@ -48,7 +49,7 @@ fresh() {
   cp "$project/zyndle.sh" "$world/tree"
   cp "$project/tools/set_up.sh" "$world/tree/tools"
   (cd "$world/tree" && mkdir cmake Tonelake TodayChordExtension Desktop zyndle tests &&
-    touch CMakeLists.txt CMakePresets.json Tonelake/{note,old}.cpp)
+    touch CMakeLists.txt CMakePresets.json Tonelake/{note,old}.cpp libfmt.so.9)
   find "$world/tree" -exec touch --date '1 hour ago' {} +
   echo 0 >"$world/user"
   echo '<ninja-build installed><g++ config-files>' >"$world/packages"
@@ -72,7 +73,7 @@ row() {
   eval "$2"
   out=$(cd "$world/elsewhere" && eval "$3" 2>"$world/err" <<<typed) || status=$?
   err=$(<"$world/err")
-  calls=$(grep --invert-match '^id' "$world/calls" | tr '\n' ';') || true
+  calls=$(grep --extended-regexp --invert-match '^(id|ldd)' "$world/calls" | tr '\n' ';') || true
   # shellcheck disable=SC2053  # patterns on purpose
   if [[ $status != "$4" || $out != $5 || $err != $6 || $calls != $7 ]]; then
     printf 'FAILED: %s\n  status %s\n  stdout %s\n  stderr %s\n  calls  %s\n' \
@@ -101,6 +102,8 @@ row 'through a link' 'built; ln -sf "$world/tree/zyndle.sh" "$world/link"' \
 row 'a source changed' 'built; '"$installed"'; touch "$world/tree/Tonelake/note.cpp"' \
   "$call" 3 "$ran" '' "$build"
 row 'a source was removed' 'built; '"$installed"'; rm "$world/tree/Tonelake/old.cpp"' \
+  "$call" 3 "$ran" '' "$build"
+row 'a library is gone' 'built; '"$installed"'; rm "$world/tree/libfmt.so.9"' \
   "$call" 3 "$ran" '' "$build"
 row 'a test or a picture is no source' 'built; touch "$world/tree/tests" "$world/tree/today.svg"' \
   "$call" 3 "$ran" '' ''
