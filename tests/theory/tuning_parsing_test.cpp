@@ -62,6 +62,7 @@ TEST(TuningParsing, NamesWhatIsWrong) {
       {"E A D G B", "names 5 strings"},
       {"E A D Gb E", "names 5 strings"},
       {"B E A D G B E", "names 7 strings"},
+      {"EADGbE", "names 5 strings"},
       {"E", "names 1 string,"},
       {"E A D H B E", "\"H\" is not a note name"},
       {"open Q", "\"open\" is not a note name"},
