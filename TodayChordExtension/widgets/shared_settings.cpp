@@ -3,21 +3,17 @@
 #include <utility>
 
 #include "TodayChordExtension/widgets/shared_data.h"
-#include "TodayChordExtension/widgets/widget_chord_collection_json.h"
-#include "Tonelake/chords/chord_json.h"
 
 namespace todaychord {
 namespace {
 
-// A list is all there or not at all: what is left of a damaged one would look like the whole.
+// The list that the key holds, empty for a damaged one.
 template <typename Decode>
 auto readList(const tonelake::SettingsStore& store, std::string_view key, Decode decode) {
-  const std::optional<std::string> data = store.data(key);
   try {
-    const json::Value list = parseSharedList(data);
-    return json::decodeList(json::Node(list), decode);
+    return decode(store.data(key));
   } catch (const json::DecodingError&) {
-    return decltype(json::decodeList(std::declval<json::Node>(), decode))();
+    return decode(std::nullopt);
   }
 }
 
@@ -36,11 +32,11 @@ bool SharedSettings::isLeftHanded() const {
 }
 
 std::vector<Chord> SharedSettings::recentlyViewedChords() const {
-  return readList(*store_, recentlyViewedChordsKey, tonelake::decodeChord);
+  return readList(*store_, recentlyViewedChordsKey, decodeRecentlyViewedChords);
 }
 
 std::vector<WidgetChordCollection> SharedSettings::chordCollections() const {
-  return readList(*store_, chordCollectionsKey, decodeWidgetChordCollection);
+  return readList(*store_, chordCollectionsKey, decodeChordCollections);
 }
 
 }  // namespace todaychord

@@ -34,11 +34,8 @@ bool isName(std::string_view text) {
 }
 
 bool equalsWithoutCase(std::string_view text, std::string_view lowerCase) {
-  const auto toLower = [](char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-  };
   return std::equal(text.begin(), text.end(), lowerCase.begin(), lowerCase.end(),
-                    [&](char a, char b) { return toLower(a) == b; });
+                    [&](char a, char b) { return tonelake::lowercase(a) == b; });
 }
 
 // The value of the first query item of this name.

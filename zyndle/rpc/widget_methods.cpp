@@ -33,7 +33,7 @@ const std::string& kindParameter(const json::Node& parameters) {
   if (TodayChordBundle::findWidget(kind.text()) == nullptr) {
     std::vector<std::string> kinds;
     for (const auto& widget : TodayChordBundle::widgets()) kinds.emplace_back(widget.kind);
-    kind.fail("there is no widget \"" + kind.text() + "\"; there are " +
+    kind.fail("there is no widget " + tonelake::quoted(kind.text()) + "; there are " +
               tonelake::join(kinds, ", "));
   }
   return kind.text();
