@@ -131,12 +131,16 @@ std::optional<std::string> SqliteSettingsStore::inTransaction(const std::functio
   return wrong;
 }
 
+std::optional<std::string> SqliteSettingsStore::lengthProblem(std::string_view key,
+                                                              std::string_view value) const {
+  if (key.size() + value.size() <= longestSetting) return std::nullopt;
+  return file_ + ": the setting \"" + std::string(key.substr(0, 64)) + "\" is longer than " +
+         std::to_string(longestSetting) + " bytes";
+}
+
 std::optional<std::string> SqliteSettingsStore::store(std::string_view key, SettingType type,
                                                       const SqliteParameter& value) {
-  if (key.size() + value.bytes.size() > longestSetting) {
-    return file_ + ": the setting \"" + std::string(key.substr(0, 64)) + "\" is longer than " +
-           std::to_string(longestSetting) + " bytes";
-  }
+  if (auto wrong = lengthProblem(key, value.bytes)) return wrong;
   return inTransaction([&] {
     return upsert_.run({Parameter::text(key), Parameter::text(nameOf(type)), value});
   });
@@ -156,6 +160,24 @@ std::optional<std::string> SqliteSettingsStore::write(const Setting& setting) {
 
 std::optional<std::string> SqliteSettingsStore::erase(std::string_view key) {
   return inTransaction([&] { return delete_.run({Parameter::text(key)}); });
+}
+
+std::optional<std::string> SqliteSettingsStore::editData(
+    std::string_view key,
+    const std::function<std::optional<std::string>(const std::optional<std::string>&)>& change) {
+  const Parameter name = Parameter::text(key);
+  const Parameter type = Parameter::text(nameOf(SettingType::data));
+  std::optional<std::string> tooLong;
+  const auto edit = [&] {
+    std::optional<std::string> data;
+    const auto keep = [&](const SqliteStatement::Row& row) { data = row.bytes(0); };
+    if (!selectValue_.run({name, type}, keep)) return false;
+    const std::optional<std::string> changed = change(data);
+    if (changed) tooLong = lengthProblem(key, *changed);
+    return !changed || tooLong || upsert_.run({name, type, Parameter::data(*changed)});
+  };
+  const std::optional<std::string> wrong = inTransaction(edit);
+  return wrong ? wrong : tooLong;
 }
 
 SqliteSettingsStore::Answer<std::optional<Setting>> SqliteSettingsStore::find(

@@ -49,6 +49,12 @@ class SqliteSettingsStore final : public tonelake::SettingsStore {
   std::optional<std::string> write(const Setting& setting);
   std::optional<std::string> erase(std::string_view key);
 
+  /// Lets `change` make new data of what a key holds as data, nothing where it holds none, or
+  /// leave it with nothing. No other process writes in between. `change` must not throw.
+  std::optional<std::string> editData(
+      std::string_view key,
+      const std::function<std::optional<std::string>(const std::optional<std::string>&)>& change);
+
   template <typename Value>
   struct Answer {
     Value value;
@@ -79,6 +85,7 @@ class SqliteSettingsStore final : public tonelake::SettingsStore {
   std::optional<std::string> inTransaction(const std::function<bool()>& write);
   std::optional<std::string> store(std::string_view key, SettingType type,
                                    const SqliteParameter& value);
+  std::optional<std::string> lengthProblem(std::string_view key, std::string_view value) const;
   std::optional<std::string> value(std::string_view key, SettingType type) const;
   std::string problem() const;
   void report(const std::optional<std::string>& problem) const;

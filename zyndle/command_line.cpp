@@ -7,8 +7,10 @@
 
 #include "Tonelake/foundation/text.h"
 #include "zyndle/chord_command.h"
+#include "zyndle/collections_command.h"
 #include "zyndle/command.h"
 #include "zyndle/output.h"
+#include "zyndle/recent_command.h"
 #include "zyndle/rpc_command.h"
 #include "zyndle/settings_command.h"
 #include "zyndle/today_command.h"
@@ -94,6 +96,8 @@ void runCommandLine(int argc, const char* const* argv) {
   app.require_subcommand(1);
   addTodayCommand(app, action);
   addChordCommand(app, action);
+  addRecentCommand(app, action);
+  addCollectionsCommand(app, action);
   addSettingsCommand(app, action);
   addRpcCommand(app, action);
   try {

@@ -3,11 +3,11 @@
 #include "Desktop/svg_renderer.h"
 #include "Desktop/terminal_diagram.h"
 #include "TodayChordExtension/diagram/diagram_scene.h"
+#include "TodayChordExtension/widgets/shared_settings.h"
 #include "Tonelake/chords/chord_naming.h"
 #include "Tonelake/platform/platform.h"
 #include "zyndle/command_error.h"
 #include "zyndle/output.h"
-#include "zyndle/view_settings.h"
 
 namespace zyndle {
 namespace {
@@ -35,9 +35,8 @@ todaychord::ChordView viewOf(const Chord& chord, const ChordPosition& position,
 
 DrawingStyle drawingStyle(const OutputOptions& options) {
   // The setting is only looked at when it matters, since that opens a file.
-  const bool mirrored =
-      options.leftHanded ||
-      (!options.rightHanded && isLeftHanded(*tonelake::processPlatform().sharedSettings));
+  const todaychord::SharedSettings settings(tonelake::processPlatform().sharedSettings);
+  const bool mirrored = options.leftHanded || (!options.rightHanded && settings.isLeftHanded());
   return {mirrored, options.ascii, mayColour()};
 }
 

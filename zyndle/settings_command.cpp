@@ -9,19 +9,17 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include "Desktop/settings_files.h"
 #include "Tonelake/foundation/text.h"
-#include "Tonelake/platform/diagnostics.h"
 #include "zyndle/command_error.h"
+#include "zyndle/known_settings.h"
 #include "zyndle/output.h"
-#include "zyndle/view_settings.h"
+#include "zyndle/shared_settings_file.h"
 
 namespace zyndle {
 namespace {
 
 using desktop::Setting;
 using desktop::SettingType;
-using desktop::SqliteSettingsStore;
 
 constexpr const char* description = "Read and change the settings shared with the widgets";
 
@@ -29,8 +27,8 @@ constexpr const char* examples = R"(Settings:
   todayChordCategory     category of the chord of the day: beginner, advanced or
                          jazz; beginner unless it is set
   left_handed            mirror diagrams: true or false; false unless it is set
-  recentlyViewedChords   kept by the app, as data
-  chordCollections       kept by the app, as data
+  recentlyViewedChords   kept by the app, as data; see zyndle recent
+  chordCollections       kept by the app, as data; see zyndle collections
 
 Examples:
   zyndle settings list
@@ -55,19 +53,6 @@ const KnownSetting& readKey(const std::string& key) {
   refuse("there is no setting " + tonelake::quoted(key) + "; there are " + keys);
 }
 
-// The store itself rather than the port, since it tells what went wrong.
-std::shared_ptr<SqliteSettingsStore> openSettings() {
-  const SqliteSettingsStore::Opening opening =
-      desktop::openSettingsFile(desktop::settingsFiles().shared,
-                                makeStreamDiagnostics(tonelake::DiagnosticStream::standardError));
-  if (!opening.store) fail(opening.problem);
-  return opening.store;
-}
-
-void failIf(const std::optional<std::string>& problem) {
-  if (problem) fail(*problem);
-}
-
 // A value on one line; a long one, such as the app's data, only begins.
 std::string abbreviated(const std::string& value) {
   if (value.size() <= shownLength) return printable(value);
@@ -83,7 +68,7 @@ std::string describe(const KnownSetting& known, const std::vector<Setting>& sett
 }
 
 void listSettings() {
-  const auto answer = openSettings()->list();
+  const auto answer = openSharedSettings()->list();
   failIf(answer.problem);
   std::string text;
   for (const KnownSetting& known : knownSettings) {
@@ -94,7 +79,7 @@ void listSettings() {
 
 void getSetting(const SettingsOptions& options) {
   const KnownSetting& known = readKey(options.key);
-  const auto answer = openSettings()->find(options.key);
+  const auto answer = openSharedSettings()->find(options.key);
   failIf(answer.problem);
   if (!answer.value || answer.value->type != known.type) fail(options.key + " is not set");
   writeStandardOutput(answer.value->value + '\n');
@@ -117,12 +102,12 @@ void checkValue(const KnownSetting& known, const std::string& value) {
 void setSetting(const SettingsOptions& options) {
   const KnownSetting& known = readKey(options.key);
   checkValue(known, options.value);
-  failIf(openSettings()->write({options.key, known.type, options.value}));
+  failIf(openSharedSettings()->write({options.key, known.type, options.value}));
 }
 
 void deleteSetting(const SettingsOptions& options) {
   readKey(options.key);
-  failIf(openSettings()->erase(options.key));
+  failIf(openSharedSettings()->erase(options.key));
 }
 
 void addKey(CLI::App& command, SettingsOptions& options) {

@@ -7,6 +7,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "TodayChordExtension/widgets/shared_settings.h"
 #include "Tonelake/fingering/chord_position_json.h"
 #include "Tonelake/fingering/chord_positions.h"
 #include "Tonelake/foundation/text.h"
@@ -20,7 +21,6 @@
 #include "zyndle/output.h"
 #include "zyndle/output_options.h"
 #include "zyndle/text_layout.h"
-#include "zyndle/view_settings.h"
 
 namespace zyndle {
 namespace {
@@ -129,9 +129,10 @@ void showToday(const TodayOptions& options) {
   const std::optional<ChordCategory> category = readCategory(options);
   installHost(options.output.isForPrograms());
   const tonelake::Platform& platform = tonelake::processPlatform();
-  const DailyChord daily =
-      findDailyChord(*platform.calendar, chosenMoment(*platform.calendar, day),
-                     category ? *category : todayChordCategory(*platform.sharedSettings));
+  const DailyChord daily = findDailyChord(
+      *platform.calendar, chosenMoment(*platform.calendar, day),
+      category ? *category
+               : todaychord::SharedSettings(platform.sharedSettings).todayChordCategory());
   const DrawingStyle style = drawingStyle(options.output);
   writeSvg(options.output, daily.sheet.chord, daily.positions, tonelake::Tuning::standard, style);
   if (options.output.svgFile == "-") return;

@@ -1,10 +1,12 @@
 #include "Tonelake/chords/chord_json.h"
 
+#include "Tonelake/foundation/text.h"
+
 namespace tonelake {
 
 Note decodeNote(const json::Node& node) {
   const auto note = Note::fromRawValue(node.text());
-  if (!note) node.fail("\"" + node.text() + "\" is not a note");
+  if (!note) node.fail(tonelake::quoted(node.text()) + " is not a note");
   return *note;
 }
 

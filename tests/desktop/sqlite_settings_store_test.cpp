@@ -218,6 +218,33 @@ TEST_F(SqliteSettingsStoreTest, ChoosesTheJournalOfNewFilesOnly) {
   EXPECT_EQ(journal(file), "delete");
 }
 
+// Each thread has a store of its own, as processes have.
+TEST_F(SqliteSettingsStoreTest, LosesNoEditToAnother) {
+  constexpr int threadCount = 4;
+  constexpr int editsEach = 10;
+  std::vector<std::jthread> threads;
+  threads.reserve(threadCount);
+  for (int thread = 0; thread < threadCount; ++thread) {
+    threads.emplace_back([&] {
+      const auto store = open(file);
+      for (int i = 0; i < editsEach; ++i) {
+        const auto addOne = [](const auto& data) { return data.value_or("") + 'x'; };
+        EXPECT_EQ(store->editData("list", addOne), std::nullopt);
+      }
+    });
+  }
+  threads.clear();
+  const auto store = open(file);
+  EXPECT_EQ(store->data("list"), std::string(threadCount * editsEach, 'x'));
+
+  const auto tooMuch = [](const auto&) {
+    return std::string(SqliteSettingsStore::longestSetting, 'y');
+  };
+  EXPECT_NE(store->editData("list", tooMuch), std::nullopt);
+  EXPECT_EQ(store->editData("list", [](const auto&) { return std::nullopt; }), std::nullopt);
+  EXPECT_EQ(store->data("list"), std::string(threadCount * editsEach, 'x'));
+}
+
 TEST_F(SqliteSettingsStoreTest, ServesSeveralThreads) {
   const auto store = open(file);
   constexpr int threadCount = 8;

@@ -15,6 +15,7 @@
 #include "Tonelake/today/today_chord_library.h"
 #include "tests/desktop/temporary_folder.h"
 #include "tests/support/program_run.h"
+#include "tests/zyndle/command_runner.h"
 
 namespace zyndle {
 namespace {
@@ -31,27 +32,7 @@ using tonelake::testing::ProgramResult;
 
 constexpr std::size_t pageWidth = 80;
 
-class Command : public testing::Test {
- protected:
-  ProgramResult run(std::vector<std::string> arguments, const std::string& zone = "UTC",
-                    const std::string& outputFile = "") const {
-    arguments.insert(arguments.begin(), ZYNDLE_PROGRAM);
-    return tonelake::testing::runProgram(
-        {arguments, {"TZ=" + zone, "XDG_DATA_HOME=" + folder_.path()}, "", outputFile});
-  }
-
-  Value json(const std::vector<std::string>& arguments, const std::string& zone = "UTC") const {
-    const ProgramResult result = run(arguments, zone);
-    EXPECT_EQ(result.status, 0) << result.errors;
-    return tonelake::json::parse(result.output);
-  }
-
-  desktop::TemporaryFolder folder_;
-};
-
-std::size_t countLines(const std::string& text) {
-  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
-}
+class Command : public testing::Test, protected CommandRunner {};
 
 TEST_F(Command, AnswersWithStatusAndText) {
   struct Row {
@@ -64,6 +45,8 @@ TEST_F(Command, AnswersWithStatusAndText) {
       {{"today", "--help"}, "zyndle today --date 2024-02-29"},
       {{"chord", "--help"}, "drop D, double drop D"},
       {{"settings", "set", "--help"}, "todayChordCategory"},
+      {{"recent", "add", "--help"}, "zyndle recent add F#m7b5"},
+      {{"collections", "add", "--help"}, "zyndle collections add \"Warm-up\" C Am F G7"},
       {{"today"}, "Chord of the day 2"},
       {{"today", "--category", "jazz", "--date", "2024-02-29"}, "2024-02-29, jazz"},
       {{"chord", "C"}, "Place the 2nd finger on the 2nd fret of the 4th string"},
@@ -136,6 +119,14 @@ TEST_F(Command, RefusesBadArgumentsInOneLine) {
       {{"settings", "set", "todayChordCategory", "Jazz"}, "beginner, advanced or jazz"},
       {{"settings", "set", "chordCollections", "[]"}, "data that the app keeps"},
       {{"settings", "delete", "color"}, "no setting \"color\""},
+      {{"recent", "add"}, "CHORD is missing"},
+      {{"recent", "add", "H"}, "\"H\""},
+      {{"recent", "forget"}, "no command \"forget\""},
+      {{"collections", "add", "Warm-up"}, "CHORD is missing"},
+      {{"collections", "add", "Warm-up", "C", "H"}, "\"H\""},
+      {{"collections", "add", "", "C"}, "TITLE is empty"},
+      {{"collections", "add", " \n", "C"}, "TITLE is empty"},
+      {{"collections", "add", "\xC3(", "C"}, "is not UTF-8"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(tonelake::join(row.arguments, " "));

@@ -1,7 +1,5 @@
 #include "zyndle/rpc/rpc.h"
 
-#include <chrono>
-#include <cstdio>
 #include <string>
 #include <thread>
 #include <vector>
@@ -11,60 +9,12 @@
 #include <unistd.h>
 
 #include "Tonelake/foundation/json.h"
-#include "Tonelake/foundation/text.h"
+#include "tests/zyndle/rpc_answers.h"
 
 namespace zyndle {
 namespace {
 
 namespace json = tonelake::json;
-using tonelake::Instant;
-
-// UTC with the clocks nine hours ahead, as far as the chord of the day asks.
-class TokyoCalendar final : public tonelake::Calendar {
- public:
-  Instant now() const override { return utc_->now(); }
-  std::string timeZone() const override { return "Asia/Tokyo"; }
-  std::optional<int> ordinalOfDay(Instant instant) const override {
-    return utc_->ordinalOfDay(instant + std::chrono::hours(9));
-  }
-  std::optional<tonelake::YearMonth> month(Instant, long long) const override { return {}; }
-  std::optional<int> lastDayOfMonth(tonelake::YearMonth) const override { return {}; }
-  std::optional<Instant> instant(const tonelake::LocalTime&) const override { return {}; }
-  std::optional<Instant> nextMidnight(Instant) const override { return {}; }
-
- private:
-  std::shared_ptr<const tonelake::Calendar> utc_ = tonelake::makeUtcCalendar();
-};
-
-RpcContext testContext() {
-  return {tonelake::makeUtcCalendar(),
-          [](const std::string& zone) -> std::shared_ptr<const tonelake::Calendar> {
-            return zone == "Asia/Tokyo" ? std::make_shared<TokyoCalendar>() : nullptr;
-          }};
-}
-
-// The lines that come back for a whole input.
-std::vector<std::string> answersTo(const std::string& input) {
-  std::FILE* in = std::tmpfile();
-  std::FILE* out = std::tmpfile();
-  std::fwrite(input.data(), 1, input.size(), in);
-  std::rewind(in);
-  EXPECT_EQ(runRpc(fileno(in), fileno(out), testContext()), 0);
-  std::string text(static_cast<std::size_t>(::lseek(fileno(out), 0, SEEK_END)), '\0');
-  std::rewind(out);
-  EXPECT_EQ(std::fread(text.data(), 1, text.size(), out), text.size());
-  std::fclose(in);
-  std::fclose(out);
-  std::vector<std::string> lines;
-  for (const std::string_view line : tonelake::split(text, '\n')) lines.emplace_back(line);
-  EXPECT_EQ(lines.back(), "") << "the last answer ends with a line break";
-  lines.pop_back();
-  return lines;
-}
-
-std::string request(const std::string& method, const std::string& parameters) {
-  return R"({"jsonrpc":"2.0","id":1,"method":")" + method + R"(","params":)" + parameters + "}";
-}
 
 const std::string ping = request("getNote", R"({"from":60})");
 const std::string pong = R"({"jsonrpc":"2.0","id":1,"result":{"note":"C","octave":4}})";
@@ -225,33 +175,6 @@ const std::string noSuchBass = R"("chord":{"rootNote":"C","chordType":"major","v
 const std::string unknown = R"("chord":{"rootNote":"C","chordType":"Major","variant":9})";
 const std::string openC = R"({"position":[-1,3,2,0,1,0],"fingering":[0,3,2,0,1,0]})";
 
-// `path` leads into the result: "" is the result itself, "/size" its length.
-struct MethodCase {
-  std::string method;
-  std::string parameters;
-  std::string path;
-  std::string value;
-};
-
-json::Value follow(const json::Value& result, const std::string& path) {
-  if (path == "/size") return result.size();
-  return result.at(json::Value::json_pointer(path));
-}
-
-void expectResults(const std::vector<MethodCase>& rows) {
-  std::string input;
-  for (const MethodCase& row : rows)
-    input += request(row.method, "{" + row.parameters + "}") + "\n";
-  const auto answers = answersTo(input);
-  ASSERT_EQ(answers.size(), rows.size());
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    const json::Value answer = json::parse(answers[i]);
-    ASSERT_TRUE(answer.contains("result")) << rows[i].method << " " << answers[i];
-    EXPECT_EQ(follow(answer.at("result"), rows[i].path), json::parse(rows[i].value))
-        << rows[i].method << " " << rows[i].parameters << " " << rows[i].path;
-  }
-}
-
 TEST(Rpc, GivesNotesAndChords) {
   expectResults({
       {"Note", R"("rawValue":"E♯")", "",
@@ -366,12 +289,7 @@ TEST(Rpc, NamesTheParameterThatIsWrong) {
   const std::string badRoot = R"("chord":{"rootNote":"Db","chordType":"major","variant":0})";
   const std::string noVariant = R"("chord":{"rootNote":"C","chordType":"major"})";
   const std::string allOpen = major + R"(,"position":[0,0,0,0,0,0])";
-  struct Row {
-    const char* method;
-    std::string parameters;
-    const char* message;
-  };
-  const Row rows[] = {
+  expectRefusals({
       {"Note", R"("rawValue":7)", "rawValue: expected a text"},
       {"Note", R"("rawValue":null)", "rawValue: expected a text"},
       {"getNote", R"("from":0)", "from: a MIDI"},
@@ -411,18 +329,7 @@ TEST(Rpc, NamesTheParameterThatIsWrong) {
       {"fingeringInstructions", R"("position":[0],"fingering":[0])", "position: expected six"},
       {"stringShape", R"("width":1e300,"height":1,"displacement":4,"touchY":1)", "width: "},
       {"stringShape", R"("width":1,"height":1,"displacement":4)", "touchY: missing"},
-  };
-  std::string input;
-  for (const Row& row : rows) input += request(row.method, "{" + row.parameters + "}") + "\n";
-  const auto answers = answersTo(input);
-  ASSERT_EQ(answers.size(), std::size(rows));
-  for (std::size_t i = 0; i < answers.size(); ++i) {
-    const json::Value answer = json::parse(answers[i]);
-    ASSERT_TRUE(answer.contains("error")) << rows[i].method << " " << answers[i];
-    EXPECT_EQ(answer.at("error").at("code"), -32602) << answers[i];
-    EXPECT_TRUE(answer.at("error").at("message").get<std::string>().starts_with(rows[i].message))
-        << rows[i].method << " " << answers[i];
-  }
+  });
 }
 
 }  // namespace

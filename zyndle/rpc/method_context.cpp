@@ -8,22 +8,24 @@ namespace zyndle {
 
 MethodContext::MethodContext(RpcContext host) : host_(std::move(host)) {}
 
-const tonelake::TodayChordLibrary& MethodContext::todayChordLibrary() {
-  if (!todayChordLibrary_) {
-    todayChordLibrary_.emplace(*tonelake::processPlatform().resources, host_.calendar);
+std::shared_ptr<const tonelake::TodayChordLibrary> MethodContext::todayChordLibrary() {
+  if (todayChordLibrary_ == nullptr) {
+    todayChordLibrary_ = std::make_shared<const tonelake::TodayChordLibrary>(
+        *tonelake::processPlatform().resources, host_.calendar);
   }
-  return *todayChordLibrary_;
+  return todayChordLibrary_;
 }
 
-const tonelake::Calendar& MethodContext::calendar(const tonelake::json::Node& parameters) {
+std::shared_ptr<const tonelake::Calendar> MethodContext::calendar(
+    const tonelake::json::Node& parameters) {
   const auto zone = parameters.optionalMember("timeZone");
-  if (!zone) return *host_.calendar;
+  if (!zone) return host_.calendar;
   const auto known = calendars_.find(zone->text());
-  if (known != calendars_.end()) return *known->second;
+  if (known != calendars_.end()) return known->second;
   // Only known zones are kept: there are some hundreds of them, but no end of unknown ones.
   auto calendar = host_.calendarOfZone(zone->text());
   if (calendar == nullptr) zone->fail("\"" + zone->text() + "\" is not a known time zone");
-  return *calendars_.emplace(zone->text(), std::move(calendar)).first->second;
+  return calendars_.emplace(zone->text(), std::move(calendar)).first->second;
 }
 
 }  // namespace zyndle

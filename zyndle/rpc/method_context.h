@@ -2,7 +2,6 @@
 
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 
 #include "Tonelake/fingering/chord_engine.h"
@@ -22,16 +21,16 @@ class MethodContext {
   const tonelake::ChordEngine& engine() const { return engine_; }
 
   /// Made when it is first asked for.
-  const tonelake::TodayChordLibrary& todayChordLibrary();
+  std::shared_ptr<const tonelake::TodayChordLibrary> todayChordLibrary();
 
   /// The calendar of the optional parameter "timeZone". Throws json::DecodingError for an unknown
   /// zone.
-  const tonelake::Calendar& calendar(const tonelake::json::Node& parameters);
+  std::shared_ptr<const tonelake::Calendar> calendar(const tonelake::json::Node& parameters);
 
  private:
   RpcContext host_;
   tonelake::ChordEngine engine_;
-  std::optional<tonelake::TodayChordLibrary> todayChordLibrary_;
+  std::shared_ptr<const tonelake::TodayChordLibrary> todayChordLibrary_;
   std::map<std::string, std::shared_ptr<const tonelake::Calendar>> calendars_;
 };
 

@@ -9,8 +9,8 @@ using MethodsByName = std::unordered_map<std::string_view, Method>;
 
 MethodsByName makeMethodsByName() {
   MethodsByName methods;
-  for (const auto table :
-       {theoryMethods(), chordMethods(), fingeringMethods(), todayMethods(), diagramMethods()}) {
+  for (const auto table : {theoryMethods(), chordMethods(), fingeringMethods(), contentMethods(),
+                           todayMethods(), diagramMethods(), widgetMethods()}) {
     for (const MethodRow& row : table) methods.emplace(row.name, row.method);
   }
   return methods;

@@ -27,7 +27,9 @@ struct MethodRow {
 std::span<const MethodRow> theoryMethods() noexcept;
 std::span<const MethodRow> chordMethods() noexcept;
 std::span<const MethodRow> fingeringMethods() noexcept;
+std::span<const MethodRow> contentMethods() noexcept;
 std::span<const MethodRow> todayMethods() noexcept;
 std::span<const MethodRow> diagramMethods() noexcept;
+std::span<const MethodRow> widgetMethods() noexcept;
 
 }  // namespace zyndle

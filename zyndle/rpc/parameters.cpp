@@ -6,6 +6,7 @@
 #include "Tonelake/chords/chord_data_manager.h"
 #include "Tonelake/chords/chord_json.h"
 #include "Tonelake/chords/chord_spelling.h"
+#include "zyndle/rpc/instant_text.h"
 
 namespace zyndle {
 namespace {
@@ -62,6 +63,14 @@ WholeNumbers sixOrNoNumbers(const json::Node& list) {
 WholeNumbers optionalSixNumbers(const json::Node& parameters, std::string_view key) {
   const auto list = parameters.optionalMember(key);
   return list ? sixOrNoNumbers(*list) : WholeNumbers();
+}
+
+tonelake::Instant decodeInstant(const json::Node& node) {
+  const auto instant = parseInstant(node.text());
+  if (!instant) {
+    node.fail("\"" + node.text() + "\" is not an instant like \"2025-03-07T09:00:00Z\"");
+  }
+  return *instant;
 }
 
 double measure(const json::Node& number) {

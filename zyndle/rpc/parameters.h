@@ -5,6 +5,7 @@
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/foundation/json.h"
 #include "Tonelake/foundation/whole_number.h"
+#include "Tonelake/platform/instant.h"
 #include "Tonelake/theory/tuning.h"
 
 namespace zyndle {
@@ -32,6 +33,9 @@ tonelake::WholeNumbers sixNumbers(const json::Node& list);
 /// As sixNumbers; an empty list stands for no such shape, as does one that is left out.
 tonelake::WholeNumbers sixOrNoNumbers(const json::Node& list);
 tonelake::WholeNumbers optionalSixNumbers(const json::Node& parameters, std::string_view key);
+
+/// A moment as parseInstant reads it.
+tonelake::Instant decodeInstant(const json::Node& node);
 
 /// A length or a place: any number of a size that geometry cannot make infinite.
 double measure(const json::Node& number);

@@ -1,19 +1,11 @@
 #include "Tonelake/chords/chord_json.h"
 #include "Tonelake/today/chord_category.h"
 #include "zyndle/rpc/encoding.h"
-#include "zyndle/rpc/instant_text.h"
 #include "zyndle/rpc/method_table.h"
+#include "zyndle/rpc/parameters.h"
 
 namespace zyndle {
 namespace {
-
-tonelake::Instant decodeInstant(const json::Node& node) {
-  const auto instant = parseInstant(node.text());
-  if (!instant) {
-    node.fail("\"" + node.text() + "\" is not an instant like \"2025-03-07T09:00:00Z\"");
-  }
-  return *instant;
-}
 
 tonelake::ChordCategory decodeCategory(const json::Node& node) {
   const auto category = tonelake::ChordCategory::fromRawValue(node.text());
@@ -27,12 +19,12 @@ json::Value chordOfTheDay(const json::Node& parameters, MethodContext& context) 
   const tonelake::Instant date = decodeInstant(parameters.member("for"));
   const tonelake::ChordCategory category = decodeCategory(parameters.member("category"));
   return encodeOptional(
-      context.todayChordLibrary().chordOfTheDay(date, category, context.calendar(parameters)),
+      context.todayChordLibrary()->chordOfTheDay(date, category, *context.calendar(parameters)),
       tonelake::encodeChord);
 }
 
 json::Value getAllChords(const json::Node&, MethodContext& context) {
-  return encodeList(context.todayChordLibrary().getAllChords(), tonelake::encodeChord);
+  return encodeList(context.todayChordLibrary()->getAllChords(), tonelake::encodeChord);
 }
 
 constexpr MethodRow rows[] = {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "TodayChordExtension/widgets/timeline.h"
+#include "TodayChordExtension/widgets/widget_entries.h"
+#include "TodayChordExtension/widgets/widget_sources.h"
+
+namespace todaychord {
+
+/// The entries of the collections widget: one for now, until the app asks for another. The user's
+/// own collections come first; curated packs fill up to seven.
+class CollectionsProvider final : public TimelineProvider<CollectionsEntry> {
+ public:
+  explicit CollectionsProvider(WidgetSources sources = WidgetSources::ofProcess());
+
+  CollectionsEntry placeholder() const override;
+  void getTimeline(
+      const std::function<void(Timeline<CollectionsEntry>)>& completion) const override;
+
+ private:
+  WidgetSources sources_;
+};
+
+}  // namespace todaychord

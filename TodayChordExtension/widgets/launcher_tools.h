@@ -1,0 +1,30 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+namespace todaychord {
+
+inline constexpr std::string_view launcherChordSection = "Today's Chord";
+inline constexpr std::string_view launcherToolsSection = "Essential Tools";
+
+/// A tool of the app that the launcher opens.
+struct LauncherTool {
+  std::string_view title;
+  std::string_view destination;  ///< a name for namedDestination
+  std::string_view image;        ///< an image of the app's own, or ""
+  std::string_view systemImage;  ///< a system icon where there is no image, or ""
+};
+
+// In the order in which they are shown.
+// clang-format off
+inline constexpr std::array<LauncherTool, 4> launcherTools{{
+    // title           destination             image            system icon
+    {"Tuner",          "tuner",                "diapason",       ""},
+    {"Metronome",      "metronome",            "metronome",      ""},
+    {"Reverse Lookup", "reverse-chord-finder", "reverse-lookup", ""},
+    {"Scan Song",      "scan-song",            "",               "doc.text.viewfinder"},
+}};
+// clang-format on
+
+}  // namespace todaychord

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "TodayChordExtension/widgets/timeline.h"
+#include "TodayChordExtension/widgets/widget_entries.h"
+#include "TodayChordExtension/widgets/widget_sources.h"
+
+namespace todaychord {
+
+/// The entries of the recent-chords widget: one for now, until the app asks for another. The
+/// chords are the first eight different ones that the user viewed; where there are fewer, common
+/// chords and then those for beginners fill up.
+class RecentChordsProvider final : public TimelineProvider<RecentChordsEntry> {
+ public:
+  explicit RecentChordsProvider(WidgetSources sources = WidgetSources::ofProcess());
+
+  RecentChordsEntry placeholder() const override;
+  void getTimeline(
+      const std::function<void(Timeline<RecentChordsEntry>)>& completion) const override;
+
+ private:
+  WidgetSources sources_;
+};
+
+}  // namespace todaychord

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "TodayChordExtension/widgets/widget_family.h"
+
+namespace todaychord {
+
+/// A widget as a host lists it. The texts are shown as they stand, in every language.
+struct WidgetDescription {
+  std::string_view kind;  ///< the widget's identifier; hosts keep it: do not change
+  std::string_view displayName;
+  std::string_view description;
+  std::span<const WidgetFamily> families;  ///< in the order in which a host offers them
+};
+
+inline constexpr std::string_view chordWidgetKind = "ZyndleChordWidget";
+inline constexpr std::string_view launcherWidgetKind = "ZyndleExtraLargeLauncher";
+inline constexpr std::string_view recentChordsWidgetKind = "ZyndleExtraLargeRecentChords";
+inline constexpr std::string_view collectionsWidgetKind = "ZyndleExtraLargeCollections";
+
+/// The widgets of the extension. makeWidgetProvider gives each one its entries.
+namespace TodayChordBundle {
+
+/// Chord of the day, launcher, recent chords, collections.
+std::span<const WidgetDescription> widgets() noexcept;
+
+/// The widget of this kind; nullptr for an unknown one.
+const WidgetDescription* findWidget(std::string_view kind) noexcept;
+
+}  // namespace TodayChordBundle
+}  // namespace todaychord

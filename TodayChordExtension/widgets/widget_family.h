@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace todaychord {
+
+/// The size and place in which a host shows a widget.
+class WidgetFamily {
+ public:
+  enum Case : std::uint8_t {
+    small,
+    medium,
+    large,
+    extraLarge,
+    extraLargePortrait,
+    accessoryCircular,
+    accessoryRectangular,
+    accessoryInline,
+  };
+
+  constexpr WidgetFamily(Case family) noexcept  // NOLINT(google-explicit-constructor)
+      : case_(family) {}
+  constexpr operator Case() const noexcept { return case_; }  // NOLINT(google-explicit-constructor)
+
+  /// Exactly the name of a case, for example "extraLargePortrait"; nothing for any other text.
+  static std::optional<WidgetFamily> fromRawValue(std::string_view rawValue) noexcept;
+  static std::span<const WidgetFamily> allCases() noexcept;
+
+  /// The name of the case. Hosts pass it around: do not change.
+  std::string_view rawValue() const noexcept;
+
+ private:
+  Case case_;
+};
+
+}  // namespace todaychord

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+#include <variant>
+
+#include "TodayChordExtension/widgets/timeline.h"
+#include "TodayChordExtension/widgets/widget_entries.h"
+#include "TodayChordExtension/widgets/widget_sources.h"
+
+namespace todaychord {
+
+/// An entry of any widget, for hosts that learn only at run time which one they serve.
+using WidgetEntry = std::variant<ChordEntry, LauncherEntry, RecentChordsEntry, CollectionsEntry>;
+using WidgetProvider = TimelineProvider<WidgetEntry>;
+
+/// The provider of the widget of this kind; nullptr for an unknown kind.
+std::unique_ptr<const WidgetProvider> makeWidgetProvider(
+    std::string_view kind, const WidgetSources& sources = WidgetSources::ofProcess());
+
+}  // namespace todaychord

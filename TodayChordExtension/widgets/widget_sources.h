@@ -1,0 +1,23 @@
+#pragma once
+
+#include <memory>
+
+#include "Tonelake/platform/calendar.h"
+#include "Tonelake/platform/settings_store.h"
+#include "Tonelake/today/today_chord_library.h"
+
+namespace todaychord {
+
+/// What the providers read. Neither calendar nor settings are null.
+struct WidgetSources {
+  /// The platform of the process.
+  static WidgetSources ofProcess();
+
+  std::shared_ptr<const tonelake::Calendar> calendar;
+  std::shared_ptr<const tonelake::SettingsStore> settings;
+  /// The daily chords, shared by whoever needs them; where it is null, each provider that needs a
+  /// library makes its own. Days are counted by the calendar above, whatever the library's is.
+  std::shared_ptr<const tonelake::TodayChordLibrary> library;
+};
+
+}  // namespace todaychord

@@ -1,0 +1,72 @@
+#include "Tonelake/content/chord_list_category.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <utility>
+
+namespace tonelake {
+namespace {
+
+struct CategoryName {
+  ChordListCategory category;
+  std::string_view rawValue;
+};
+
+// clang-format off
+constexpr std::array<CategoryName, 18> names{{
+    {ChordListCategory::commonChords,         "commonChords"},
+    {ChordListCategory::beginnerEssentials,   "beginnerEssentials"},
+    {ChordListCategory::barreChords,          "barreChords"},
+    {ChordListCategory::popularProgressions,  "popularProgressions"},
+    {ChordListCategory::jazzChords,           "jazzChords"},
+    {ChordListCategory::fingerstyleFavorites, "fingerstyleFavorites"},
+    {ChordListCategory::powerChords,          "powerChords"},
+    {ChordListCategory::bluesChords,          "bluesChords"},
+    {ChordListCategory::colorfulChords,       "colorfulChords"},
+    {ChordListCategory::slashChords,          "slashChords"},
+    {ChordListCategory::capoFriendly,         "capoFriendly"},
+    {ChordListCategory::undergroundMusic,     "undergroundMusic"},
+    {ChordListCategory::country,              "country"},
+    {ChordListCategory::folk,                 "folk"},
+    {ChordListCategory::metal,                "metal"},
+    {ChordListCategory::rock,                 "rock"},
+    {ChordListCategory::alternative,          "alternative"},
+    {ChordListCategory::rnb,                  "rnb"},
+}};
+// clang-format on
+
+template <std::size_t... places>
+constexpr std::array<ChordListCategory, names.size()> listCases(std::index_sequence<places...>) {
+  return {names[places].category...};
+}
+constexpr auto cases = listCases(std::make_index_sequence<names.size()>());
+
+constexpr bool followsCaseOrder() {
+  for (std::size_t i = 0; i < cases.size(); ++i) {
+    if (static_cast<std::size_t>(cases[i]) != i) return false;
+  }
+  return true;
+}
+static_assert(followsCaseOrder(), "row i names case i");
+
+}  // namespace
+
+std::optional<ChordListCategory> ChordListCategory::fromRawValue(
+    std::string_view rawValue) noexcept {
+  const auto found = std::find_if(names.begin(), names.end(), [&](const CategoryName& name) {
+    return name.rawValue == rawValue;
+  });
+  if (found == names.end()) return std::nullopt;
+  return found->category;
+}
+
+std::span<const ChordListCategory> ChordListCategory::allCases() noexcept {
+  return cases;
+}
+
+std::string_view ChordListCategory::rawValue() const noexcept {
+  return names[case_].rawValue;
+}
+
+}  // namespace tonelake

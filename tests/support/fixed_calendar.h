@@ -1,0 +1,44 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "Tonelake/platform/calendar.h"
+
+namespace tonelake::testing {
+
+/// A calendar whose clock stands still, ahead of UTC by a whole number of hours, and which can be
+/// made to know neither days nor midnights.
+class FixedCalendar final : public Calendar {
+ public:
+  explicit FixedCalendar(Instant time, int hoursAhead = 0) : time_(time), ahead_(hoursAhead) {}
+
+  bool knowsDays = true;
+  bool knowsMidnights = true;
+
+  Instant now() const override { return time_; }
+  std::string timeZone() const override { return "Test/Ahead"; }
+  std::optional<int> ordinalOfDay(Instant instant) const override {
+    return knowsDays ? utc_->ordinalOfDay(instant + ahead_) : std::nullopt;
+  }
+  std::optional<Instant> nextMidnight(Instant instant) const override {
+    if (!knowsMidnights) return std::nullopt;
+    return *utc_->nextMidnight(instant + ahead_) - ahead_;
+  }
+  std::optional<YearMonth> month(Instant, long long) const override { return std::nullopt; }
+  std::optional<int> lastDayOfMonth(YearMonth) const override { return std::nullopt; }
+  std::optional<Instant> instant(const LocalTime&) const override { return std::nullopt; }
+
+ private:
+  Instant time_;
+  std::chrono::hours ahead_;
+  std::shared_ptr<const Calendar> utc_ = makeUtcCalendar();
+};
+
+/// The moment at which a clock in UTC shows `time`.
+inline Instant utc(const LocalTime& time) {
+  return *makeUtcCalendar()->instant(time);
+}
+
+}  // namespace tonelake::testing

@@ -1,0 +1,111 @@
+#include "zyndle/collections_command.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include "TodayChordExtension/widgets/shared_data.h"
+#include "TodayChordExtension/widgets/shared_settings.h"
+#include "Tonelake/foundation/text.h"
+#include "Tonelake/platform/platform.h"
+#include "zyndle/command_error.h"
+#include "zyndle/host.h"
+#include "zyndle/output.h"
+#include "zyndle/shared_list.h"
+
+namespace zyndle {
+namespace {
+
+using todaychord::WidgetChordCollection;
+
+constexpr const char* description = "List and add your own chord collections";
+
+constexpr const char* examples =
+    R"(The widget with the collections shows the first seven of yours, and curated
+packs where there are fewer.
+
+Examples:
+  zyndle collections add "Warm-up" C Am F G7
+  zyndle collections add Dreamy Cmaj7 "E minor 7th"
+  zyndle collections list
+  zyndle collections clear)";
+
+constexpr SharedList collections{todaychord::chordCollectionsKey, "collections"};
+
+struct CollectionOptions {
+  std::string title;
+  std::vector<std::string> chords;
+};
+
+// Nobody reads it: it only has to differ from every other one.
+std::string newIdentifier() {
+  tonelake::RandomSource& random = *tonelake::processPlatform().random;
+  const auto first = random.next();
+  return fmt::format("{:016x}{:016x}", first, random.next());
+}
+
+WidgetChordCollection readCollection(const CollectionOptions& options) {
+  if (options.title.find_first_not_of(" \t\n") == std::string::npos) refuse("TITLE is empty");
+  if (!tonelake::isValidUtf8(options.title)) {
+    refuse("TITLE " + tonelake::quoted(options.title) + " is not UTF-8");
+  }
+  WidgetChordCollection collection{newIdentifier(), options.title, "", {}};
+  for (const std::string& name : options.chords) collection.chords.push_back(readChordName(name));
+  return collection;
+}
+
+void addCollection(const CollectionOptions& options) {
+  installHost(false);
+  const WidgetChordCollection collection = readCollection(options);
+  collections.edit([&](const std::optional<std::string>& data) {
+    return todaychord::addChordCollection(data, collection);
+  });
+}
+
+// The title and, below it, the chords.
+std::string describe(const WidgetChordCollection& collection) {
+  std::vector<std::string> chords;
+  for (const tonelake::Chord& chord : collection.chords) chords.push_back(describeChord(chord));
+  const std::string list = chords.empty() ? "(no chords)" : tonelake::join(chords, ", ");
+  return printable(collection.title) + "\n  " + printable(list) + '\n';
+}
+
+void listCollections() {
+  installHost(false);
+  collections.read([](const std::optional<std::string>& data) {
+    std::string text;
+    for (const auto& collection : todaychord::decodeChordCollections(data)) {
+      text += describe(collection);
+    }
+    writeStandardOutput(text.empty() ? "(none)\n" : text);
+  });
+}
+
+}  // namespace
+
+void addCollectionsCommand(CLI::App& app, Action& action) {
+  CLI::App& command = *app.add_subcommand("collections", description);
+  command.footer(examples);
+  command.require_subcommand(1);
+
+  CLI::App& add = *command.add_subcommand("add", "Add a collection at the end");
+  const auto options = std::make_shared<CollectionOptions>();
+  add.add_option("TITLE", options->title, "What the collection is called")
+      ->required()
+      ->type_name("");
+  add.add_option("CHORD", options->chords, "The names of its chords, each one argument")
+      ->required()
+      ->type_name("");
+  add.callback([options, &action] { action = [options] { addCollection(*options); }; });
+
+  CLI::App& list = *command.add_subcommand("list", "List the collections with their chords");
+  list.callback([&action] { action = listCollections; });
+
+  CLI::App& clear = *command.add_subcommand("clear", "Forget them all");
+  clear.callback([&action] { action = [] { collections.clear(); }; });
+}
+
+}  // namespace zyndle
