@@ -42,7 +42,7 @@ constexpr int openUpTheNeck =  40;  // each open string above the bass, for each
 // clang-format on
 
 // The strings that are muted below the bass: none, one, two, three or more.
-constexpr std::array<int, Tuning::stringCount> lowerMutes{0, 3, 16, 30, 30, 30};
+constexpr std::array<int, Tuning::stringCount> lowerMutes{0, 3, 16, 50, 50, 50};
 
 // A shape in sets of strings. The lists go by finger.
 struct Shape {

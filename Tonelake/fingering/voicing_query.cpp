@@ -14,8 +14,8 @@ PitchClassSet toneAt(int root, WholeNumber interval) {
   return noteAt(root + static_cast<int>(interval % octave));
 }
 
-// Every tone must sound, but the perfect fifth may be left out of a chord of four or more unless
-// it is the bass.
+// Every tone must sound, but the perfect fifth may be left out of a chord of four or more. Where it
+// is the bass it sounds all the same.
 void setTones(const Chord& chord, const WholeNumbers& intervals, VoicingQuery& query) {
   constexpr std::size_t fewestTonesWithoutFifth = 4;
   constexpr std::size_t tonesOfPowerChord = 2;
@@ -29,7 +29,6 @@ void setTones(const Chord& chord, const WholeNumbers& intervals, VoicingQuery& q
   if (intervals.size() >= fewestTonesWithoutFifth) {
     query.requiredNotes &= static_cast<PitchClassSet>(~toneAt(root, fifth));
   }
-  query.requiredNotes |= query.bass;
   query.isPowerChord = intervals.size() == tonesOfPowerChord;
 }
 
