@@ -1,3 +1,7 @@
+// What a change costs is worked through for open C major, (x,3,2,0,1,0), to open A minor,
+// (x,0,2,2,1,0): the hand stays at the first fret, index and middle finger stay, and the ring
+// finger is lifted and goes over two strings and down a fret, 2 * -15 + 10 + 3 * 8 = 4.
+//
 // The cheapest way through a sequence of chords is a shortest path: for each voicing of a chord,
 // the cheapest way to arrive there goes through one voicing of the chord before. Worked through
 // for C major to A minor with two voicings each:
@@ -28,18 +32,24 @@ constexpr int movedFinger  =   8;  // each fret, within the hand, and each strin
 constexpr int commonFinger = -15;  // a finger that stays on its string and fret
 // clang-format on
 
-// Where each finger is: its fret, 0 when it is in the air, and its strings.
+// Where the hand and each finger is. The highest fret of all is 24.
 struct Grip {
   struct Finger {
     int fret = 0;
-    StringSet strings = 0;
+    StringSet strings = 0;  // none when it is in the air
   };
 
-  int hand = 0;  // the lowest pressed fret; 0 when nothing is pressed
+  // Where the index finger's own fret may be while the hand reaches all pressed frets. A barre of
+  // the index finger leaves no choice.
+  int lowestPlace = 1;
+  int highestPlace = 24;
   std::array<Finger, littleFinger> fingers{};
 
   Grip() = default;
-  explicit Grip(const Voicing& voicing) : hand(voicing.lowestFret) {
+  explicit Grip(const Voicing& voicing) {
+    if (voicing.lowestFret == 0) return;
+    highestPlace = voicing.lowestFret;
+    lowestPlace = std::max(1, voicing.lowestFret + voicing.span - handFrets + 1);
     const PerString& pressers = voicing.position.fingering;
     for (std::size_t string = 0; string < pressers.size(); ++string) {
       if (pressers[string] == 0) continue;
@@ -47,6 +57,7 @@ struct Grip {
       finger.fret = voicing.position.position[string];
       finger.strings |= 1U << string;
     }
+    if (areSeveral(fingers.front().strings)) lowestPlace = highestPlace;
   }
 };
 
@@ -61,9 +72,15 @@ int costOfFinger(const Grip::Finger& from, const Grip::Finger& to, int handMove)
   return handMove == 0 ? commonFinger : 0;
 }
 
+// Frets that the hand has to move up the neck, less than 0 for down.
+int handMoveBetween(const Grip& from, const Grip& to) {
+  if (from.highestPlace < to.lowestPlace) return to.lowestPlace - from.highestPlace;
+  if (to.highestPlace < from.lowestPlace) return to.highestPlace - from.lowestPlace;
+  return 0;
+}
+
 int costOfChange(const Grip& from, const Grip& to) {
-  // A hand that presses nothing is wherever it is needed next.
-  const int handMove = from.hand == 0 || to.hand == 0 ? 0 : to.hand - from.hand;
+  const int handMove = handMoveBetween(from, to);
   int cost = movedHand * std::abs(handMove);
   for (std::size_t finger = 0; finger < from.fingers.size(); ++finger) {
     cost += costOfFinger(from.fingers[finger], to.fingers[finger], handMove);

@@ -10,8 +10,8 @@ namespace tonelake::Voicings {
 /// What it costs the hand to get from one voicing to the next, in the unit of Voicing::cost. The
 /// hand moves along the neck, and in the hand each finger stays where it is, moves over, is lifted
 /// or is put down. Less than 0 when fingers stay on their strings and frets: nothing is easier
-/// than a common finger. From open C major to open A minor, (x,3,2,0,1,0) to (x,0,2,2,1,0), index
-/// and middle finger stay and the ring finger moves over two strings and down a fret.
+/// than a common finger. A shape that slides along the neck as it is costs only the hand's way.
+/// From open C major to open A minor it is 4: two fingers stay and one moves over.
 int costOfChange(const Voicing& from, const Voicing& to) noexcept;
 
 /// One voicing out of each list so that everything together costs least: the voicings themselves
