@@ -1,18 +1,22 @@
 // Compares the voicings that we find, and their order, with published shapes:
 //
-//   voicing_evaluation SHAPES
+//   voicing_evaluation SHAPES [TAUGHT]
 //
 // SHAPES is a file as readPublishedShapes takes it. The lowest sounding string of a shape tells
-// which tone of its chord is in the bass.
+// which tone of its chord is in the bass. TAUGHT names the shape that a beginner is shown for a
+// chord, one a line, with # before a remark: "Bb x13331".
 //
 // A file rarely holds every shape that is published: a barre that it has for A♭ major and not for
-// A major is no less known there. So the order is judged twice, by the file alone, and with its
-// shapes without open strings counted wherever on the neck they stand for the same chord type.
-// The second figure still misses every open shape that the file lacks.
+// A major is no less known there. So the order is judged three times: by the file alone; with its
+// shapes without open strings counted wherever on the neck they stand for the same chord type; and
+// with the shapes of TAUGHT besides. The last figure still misses every other open shape that the
+// file lacks.
 
 #include <algorithm>
+#include <fstream>
 #include <map>
 #include <set>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <tuple>
@@ -21,6 +25,7 @@
 #include <fmt/format.h>
 
 #include "Tonelake/chords/chord_data_manager.h"
+#include "Tonelake/chords/chord_dictionary.h"
 #include "Tonelake/fingering/voicing_query.h"
 #include "Tonelake/fingering/voicings.h"
 #include "benchmarks/published_shapes.h"
@@ -119,76 +124,116 @@ std::optional<Frets> movable(Frets frets) {
 // How often what we put first is published.
 class Order {
  public:
-  void add(const PublishedShape& shape, const Chord& chord) {
-    shapes_[{chord.rootNote.pitchClass(), chord.chordType, chord.variant}].insert(shape.frets);
-    chords_.insert({{chord.rootNote.pitchClass(), chord.chordType, chord.variant}, chord});
-    if (const auto frets = movable(shape.frets)) {
-      movableShapes_[{chord.chordType, chord.variant}].insert(*frets);
+  void addPublished(const Chord& chord, const Frets& frets) {
+    shapesOf(chord).published.insert(frets);
+    if (const auto shape = movable(frets)) {
+      movableShapes_[{chord.chordType, chord.variant}].insert(*shape);
     }
   }
 
+  void addTaught(const Chord& chord, const Frets& frets) { shapesOf(chord).taught.insert(frets); }
+
   void print() const {
-    Hits inFile;
+    Hits published;
     Hits movedToo;
-    std::size_t voicings = 0;
-    for (const auto& [key, chord] : chords_) {
-      const auto found = Voicings::findVoicings(chord, Tuning::standard);
-      voicings += found.size();
-      count(found, inFile, [&, &key = key](const Frets& frets) { return isInFile(key, frets); });
-      count(found, movedToo, [&, &key = key](const Frets& frets) {
-        const auto shape = movable(frets);
-        const auto moved = movableShapes_.find({std::get<1>(key), std::get<2>(key)});
-        return isInFile(key, frets) ||
-               (shape && moved != movableShapes_.end() && moved->second.contains(*shape));
-      });
+    Hits taughtToo;
+    Hits taught;
+    for (const auto& [key, known] : chords_) {
+      const auto voicings = Voicings::findVoicings(known.chord, Tuning::standard);
+      const auto isPublished = [&](const Frets& f) { return known.published.contains(f); };
+      const auto isMoved = [&](const Frets& f) { return isPublished(f) || isMovable(known, f); };
+      const auto isTaught = [&](const Frets& f) { return known.taught.contains(f); };
+      if (!known.published.empty()) {
+        published.count(voicings, isPublished);
+        movedToo.count(voicings, isMoved);
+        taughtToo.count(voicings, [&](const Frets& f) { return isMoved(f) || isTaught(f); });
+      }
+      if (!known.taught.empty()) taught.count(voicings, isTaught);
     }
-    const auto chords = static_cast<double>(chords_.size());
-    fmt::print("\nchords, each with its bass {:26}  {:.1f} voicings each\n", chords_.size(),
-               static_cast<double>(voicings) / chords);
-    print("in the file", inFile);
-    print("in the file, or moved along the neck", movedToo);
+    fmt::print("\n{:<48} chords    first   one of the first three\n", "order");
+    published.print("in the file");
+    movedToo.print("in the file, or moved along the neck");
+    taughtToo.print("in the file, or moved, or taught");
+    taught.print("taught");
   }
 
  private:
-  using Key = std::tuple<int, std::string, WholeNumber>;  // root, type, bass
-  struct Hits {
-    int first = 0;
-    int firstThree = 0;
+  struct KnownChord {
+    Chord chord;
+    std::set<Frets> published;
+    std::set<Frets> taught;
   };
 
-  bool isInFile(const Key& key, const Frets& frets) const {
-    return shapes_.at(key).contains(frets);
-  }
+  struct Hits {
+    int chords = 0;
+    int first = 0;
+    int firstThree = 0;
 
-  template <typename IsPublished>
-  static void count(const std::vector<Voicing>& voicings, Hits& hits, IsPublished isPublished) {
-    constexpr std::size_t three = 3;
-    for (std::size_t i = 0; i < std::min(three, voicings.size()); ++i) {
-      if (!isPublished(voicings[i].position.position.numbers())) continue;
-      if (i == 0) ++hits.first;
-      ++hits.firstThree;
-      return;
+    template <typename IsKnown>
+    void count(const std::vector<Voicing>& voicings, IsKnown isKnown) {
+      constexpr std::ptrdiff_t three = 3;
+      const auto end = voicings.begin() + std::min(three, std::ssize(voicings));
+      const auto found = std::find_if(voicings.begin(), end, [&](const Voicing& voicing) {
+        return isKnown(voicing.position.position.numbers());
+      });
+      ++chords;
+      if (found == end) return;
+      ++firstThree;
+      if (found == voicings.begin()) ++first;
     }
+
+    void print(const char* what) const {
+      if (chords == 0) return;
+      fmt::print("  {:<46} {:6} {:6.1f} % {:6.1f} %\n", what, chords, 100.0 * first / chords,
+                 100.0 * firstThree / chords);
+    }
+  };
+
+  KnownChord& shapesOf(const Chord& chord) {
+    KnownChord& known = chords_[{chord.rootNote.pitchClass(), chord.chordType, chord.variant}];
+    known.chord = chord;
+    return known;
   }
 
-  void print(const char* what, const Hits& hits) const {
-    const auto chords = static_cast<double>(chords_.size());
-    fmt::print("  {:<46} first {:.1f} %, one of the first three {:.1f} %\n", what,
-               100 * hits.first / chords, 100 * hits.firstThree / chords);
+  bool isMovable(const KnownChord& known, const Frets& frets) const {
+    const auto shape = movable(frets);
+    const auto shapes = movableShapes_.find({known.chord.chordType, known.chord.variant});
+    return shape && shapes != movableShapes_.end() && shapes->second.contains(*shape);
   }
 
-  std::map<Key, std::set<Frets>> shapes_;
-  std::map<Key, Chord> chords_;
+  std::map<std::tuple<int, std::string, WholeNumber>, KnownChord> chords_;  // by pitch class
   std::map<std::pair<std::string, WholeNumber>, std::set<Frets>> movableShapes_;
 };
 
-void evaluate(const std::vector<PublishedShape>& shapes) {
+// Adds the shapes of a file of lines such as "Bb x13331". Throws std::runtime_error.
+void readTaughtShapes(const std::string& path, Order& order) {
+  std::ifstream file(path);
+  if (!file) throw std::runtime_error(path + ": cannot be read");
+  std::string line;
+  for (int number = 1; std::getline(file, line); ++number) {
+    if (line.empty() || line.front() == '#') continue;
+    std::istringstream words(line);
+    std::string name;
+    std::string shape;
+    words >> name >> shape;
+    const auto chord = Chords::lookUpChord(name);
+    Frets frets{};
+    if (!chord || shape.size() != frets.size()) {
+      throw std::runtime_error(fmt::format("{}:{}: expected a chord and a shape", path, number));
+    }
+    std::transform(shape.begin(), shape.end(), frets.begin(), [](char fret) {
+      return fret == 'x' ? mutedString : static_cast<std::int8_t>(fret - '0');
+    });
+    order.addTaught(*chord, frets);
+  }
+}
+
+void evaluate(const std::vector<PublishedShape>& shapes, Order& order) {
   constexpr std::size_t missedShown = 10;
   VoicingOptions open;
   open.openStringsAboveFifthFret = true;
   Coverage byDefault{VoicingOptions()};
   Coverage withOpenStrings(open);
-  Order order;
   int right = 0;
   for (const PublishedShape& shape : shapes) {
     const auto chord = chordOf(shape);
@@ -196,7 +241,7 @@ void evaluate(const std::vector<PublishedShape>& shapes) {
     ++right;
     byDefault.judge(shape, *chord);
     withOpenStrings.judge(shape, *chord);
-    order.add(shape, *chord);
+    order.addPublished(*chord, shape.frets);
   }
   if (right == 0) throw std::runtime_error("no shape has the tones of its chord");
   fmt::print("{:<48} {:5}\n{:<48} {:5}\n", "shapes", shapes.size(), "with the right tones", right);
@@ -209,12 +254,14 @@ void evaluate(const std::vector<PublishedShape>& shapes) {
 }  // namespace tonelake
 
 int main(int count, char** arguments) {
-  if (count != 2) {
-    fmt::print(stderr, "usage: voicing_evaluation SHAPES\n");
+  if (count != 2 && count != 3) {
+    fmt::print(stderr, "usage: voicing_evaluation SHAPES [TAUGHT]\n");
     return 2;
   }
   try {
-    tonelake::evaluate(benchmarks::readPublishedShapes(arguments[1]));
+    tonelake::Order order;
+    if (count == 3) tonelake::readTaughtShapes(arguments[2], order);
+    tonelake::evaluate(benchmarks::readPublishedShapes(arguments[1]), order);
   } catch (const std::runtime_error& error) {
     fmt::print(stderr, "voicing_evaluation: {}\n", error.what());
     return 1;

@@ -4,11 +4,13 @@
 #include <array>
 #include <utility>
 
+#include "Desktop/ascii_text.h"
 #include "Tonelake/chords/chord_dictionary.h"
 #include "Tonelake/chords/chord_naming.h"
 #include "Tonelake/chords/chord_spelling.h"
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/theory/note.h"
+#include "zyndle/command_error.h"
 #include "zyndle/nearest_names.h"
 
 // "a MINOR 7th/c", which no dictionary holds, becomes "Am7/C": the root is a capital, the quality
@@ -197,6 +199,12 @@ ParsedChordName parseChordName(std::string_view typed) {
     if (chord && chord->variant == 0) return placeBass(*chord, parts->second);
   }
   return {std::nullopt, unknownName(name)};
+}
+
+Chord readChordName(std::string_view typed, bool inAscii) {
+  const ParsedChordName parsed = parseChordName(typed);
+  if (!parsed.chord) refuse(inAscii ? desktop::toAscii(parsed.problem) : parsed.problem);
+  return *parsed.chord;
 }
 
 }  // namespace zyndle

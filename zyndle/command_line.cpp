@@ -9,11 +9,13 @@
 #include "zyndle/chord_command.h"
 #include "zyndle/collections_command.h"
 #include "zyndle/command.h"
+#include "zyndle/connect_command.h"
 #include "zyndle/output.h"
 #include "zyndle/recent_command.h"
 #include "zyndle/rpc_command.h"
 #include "zyndle/settings_command.h"
 #include "zyndle/today_command.h"
+#include "zyndle/voicings_command.h"
 
 namespace zyndle {
 namespace {
@@ -25,6 +27,8 @@ constexpr const char* examples = R"(Examples:
   zyndle today                     today's chord and how to play it
   zyndle chord F#m7b5              a chord by its name
   zyndle chord G --tuning DADGAD   its shapes in another tuning
+  zyndle voicings C/E              every way to play it, easiest first
+  zyndle connect "C G/B Am F"      shapes that are close to each other
   zyndle settings list             what you have set
   zyndle COMMAND --help            more about a command)";
 
@@ -96,6 +100,8 @@ void runCommandLine(int argc, const char* const* argv) {
   app.require_subcommand(1);
   addTodayCommand(app, action);
   addChordCommand(app, action);
+  addVoicingsCommand(app, action);
+  addConnectCommand(app, action);
   addRecentCommand(app, action);
   addCollectionsCommand(app, action);
   addSettingsCommand(app, action);

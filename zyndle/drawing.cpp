@@ -54,6 +54,17 @@ std::string drawInTerminal(const Chord& chord, const std::vector<ChordPosition>&
   return desktop::terminalDiagrams(diagrams, {.ascii = style.isAscii, .color = style.isColoured});
 }
 
+std::string drawNamedInTerminal(const std::vector<NamedShape>& shapes,
+                                const tonelake::TuningNames& tuning, const DrawingStyle& style) {
+  std::vector<desktop::CaptionedDiagram> diagrams;
+  diagrams.reserve(shapes.size());
+  for (const NamedShape& shape : shapes) {
+    diagrams.push_back({tonelake::Chords::getShortestTitleForChord(shape.chord),
+                        viewOf(shape.chord, shape.position, tuning, style)});
+  }
+  return desktop::terminalDiagrams(diagrams, {.ascii = style.isAscii, .color = style.isColoured});
+}
+
 void writeSvg(const OutputOptions& options, const Chord& chord,
               const std::vector<ChordPosition>& positions, const tonelake::TuningNames& tuning,
               const DrawingStyle& style) {

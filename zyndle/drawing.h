@@ -29,6 +29,16 @@ std::string drawInTerminal(const tonelake::Chord& chord,
                            const std::vector<tonelake::ChordPosition>& positions,
                            const tonelake::TuningNames& tuning, const DrawingStyle& style);
 
+/// A shape with the chord it is a shape of.
+struct NamedShape {
+  tonelake::Chord chord;
+  tonelake::ChordPosition position;
+};
+
+/// The shapes of a row of chords in the same way, each below the name of its chord.
+std::string drawNamedInTerminal(const std::vector<NamedShape>& shapes,
+                                const tonelake::TuningNames& tuning, const DrawingStyle& style);
+
 /// Writes the diagram of the first shape where --svg wants it, if it was given. A CommandError
 /// when there is no shape to draw or the file cannot be written.
 void writeSvg(const OutputOptions& options, const tonelake::Chord& chord,

@@ -8,7 +8,7 @@
 
 namespace zyndle {
 
-void addOutputOptions(CLI::App& command, OutputOptions& options) {
+void addTextOptions(CLI::App& command, OutputOptions& options) {
   const auto addFlag = [&command](const char* name, bool& flag, const char* meaning) {
     command.add_flag(name, flag, meaning)->disable_flag_override();
   };
@@ -16,6 +16,10 @@ void addOutputOptions(CLI::App& command, OutputOptions& options) {
   addFlag("--right-handed", options.rightHanded, "Do not, even if left_handed is set");
   addFlag("--ascii", options.ascii, "Write and draw with ASCII characters only");
   addFlag("--json", options.json, "Write one JSON object, for scripts");
+}
+
+void addOutputOptions(CLI::App& command, OutputOptions& options) {
+  addTextOptions(command, options);
   command.add_option("--svg", options.svgFile, "Draw the first shape too; - for standard output")
       ->type_name("FILE");
 }

@@ -22,8 +22,11 @@ struct OutputOptions {
   bool isForPrograms() const { return json || svgFile == "-"; }
 };
 
-/// Adds --left-handed, --right-handed, --ascii, --json and --svg to a subcommand. `options` has
-/// to live as long as the subcommand.
+/// Adds --left-handed, --right-handed, --ascii and --json to a subcommand. `options` has to live as
+/// long as the subcommand.
+void addTextOptions(CLI::App& command, OutputOptions& options);
+
+/// The same and --svg.
 void addOutputOptions(CLI::App& command, OutputOptions& options);
 
 /// A CommandError when two of the options contradict each other.

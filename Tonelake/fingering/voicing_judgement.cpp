@@ -1,15 +1,15 @@
 // What a shape costs, worked through for open C major, muted, 3, 2, 0, 1, 0:
 //
-//   three fingers                                      15
-//   a span of two frets, all within the fingers' own   24
-//   the third fret is the highest                       6
-//   one muted string below the bass                     3
-//   open strings: any at all 15, one between others 5  20
-//                                                      68
+//   three fingers                     9
+//   a span of two frets              40
+//   the third fret is the highest     9
+//   one muted string below the bass   3
+//   open strings                     25
+//                                    86
 //
-// and for its nearest rival, the barre muted, 3, 5, 5, 5, 3: four fingers 20, a barre 10, a span
-// of two frets 24 and a gap of one between index and middle finger 12, the fifth fret 10, a muted
-// string 3, less 10 for the fifth above the bass, which makes 69.
+// and for its nearest rival, the barre muted, 3, 5, 5, 5, 3: four fingers 12, a barre 18, a span
+// of two frets 40, the middle finger a fret too far from the index finger 30, the fifth fret 15, a
+// muted string 3, less 20 for the fifth above the bass, which makes 98.
 
 #include "Tonelake/fingering/voicing_judgement.h"
 
@@ -24,49 +24,54 @@ namespace tonelake::Voicings {
 namespace {
 
 // The amounts. The unit is arbitrary; what counts is which sums exceed which. They were fitted to
-// shapes that chord books print and to the shapes that beginners are shown, then rounded.
+// shapes that chord books print and to those that beginners are shown, and rounded.
 // clang-format off
-constexpr int finger          =  5;  // each finger in use
-constexpr int indexBarre      = 10;  // the index finger across several strings
-constexpr int upperBarre      = 20;  // each other finger across several strings
-constexpr int reach           = 12;  // each fret of span, and each that a finger reaches too far
-constexpr int height          =  2;  // each fret up the neck, of the highest pressed one
-constexpr int innerMute       = 40;  // each muted string between sounding ones
-constexpr int upperMute       = 20;  // each muted string above the highest sounding one
-constexpr int thinSound       = 30;  // too few strings sound
-constexpr int supportedBass   =-10;  // the next string sounds the fifth or octave of the bass
-constexpr int openAtAll       = 15;  // an open string: no such shape can be moved to another root
-constexpr int openBetween     =  5;  // each open string between pressed ones: the fingers must arch
-constexpr int openUpTheNeck   = 10;  // each open string above the bass, for each fret that the
-                                     // hand is above the second
+constexpr int finger        =   3;  // each finger in use
+constexpr int indexBarre    =  18;  // the index finger across several strings
+constexpr int upperBarre    =  25;  // each further string under another finger
+constexpr int span          =  20;  // each fret from the lowest to the highest pressed one
+constexpr int wideReach     =  30;  // each fret that two fingers are further apart than usual
+constexpr int height        =   3;  // each fret up the neck, of the highest pressed one
+constexpr int innerMute     =  70;  // each muted string between sounding ones
+constexpr int upperMute     =  30;  // each muted string above the highest sounding one
+constexpr int thinSound     =  60;  // too few strings sound
+constexpr int supportedBass = -20;  // the next string sounds the fifth or octave of the bass
+constexpr int openAtAll     =  25;  // an open string: no such shape can be moved to another root
+constexpr int openUpTheNeck =  40;  // each open string above the bass, for each fret that the hand
+                                    // is above the second: it sounds far from the others
 // clang-format on
 
-// The deeper strings that are muted below the bass: none, one, two or three of them.
-constexpr std::array<int, Tuning::stringCount> lowerMutes{0, 3, 12, 30, 30, 30};
+// The strings that are muted below the bass: none, one, two, three or more.
+constexpr std::array<int, Tuning::stringCount> lowerMutes{0, 3, 16, 50, 50, 50};
 
-// A shape in sets of strings.
+// A shape in sets of strings. The lists go by finger.
 struct Shape {
   StringSet sounding = 0;
   StringSet open = 0;
   StringSet pressed = 0;
-  std::array<StringSet, littleFinger + 1> under{};  // by finger
-  std::array<int, littleFinger + 1> fretOf{};       // by finger
+  std::array<StringSet, littleFinger + 1> under{};
+  std::array<int, littleFinger + 1> fretOf{};
 
   Shape(const Frets& frets, const Fingers& fingers) {
     for (std::size_t string = 0; string < frets.size(); ++string) {
       if (frets[string] == mutedString) continue;
       const StringSet bit = 1U << string;
-      const auto under_ = static_cast<std::size_t>(fingers[string]);
+      const auto presser = static_cast<std::size_t>(fingers[string]);  // 0 on an open string
       sounding |= bit;
       (frets[string] == openString ? open : pressed) |= bit;
-      under[under_] |= bit;
-      fretOf[under_] = frets[string];
+      under[presser] |= bit;
+      fretOf[presser] = frets[string];
     }
   }
-
-  int lowestString() const { return std::countr_zero(sounding); }
-  int highestString() const { return std::bit_width(sounding) - 1; }
 };
+
+std::size_t lowestOf(StringSet strings) {
+  return static_cast<std::size_t>(std::countr_zero(strings));
+}
+
+StringSet withoutLowest(StringSet strings) {
+  return strings & (strings - 1);
+}
 
 void takeFacts(const Shape& shape, Voicing& voicing) {
   int highest = 0;
@@ -101,22 +106,18 @@ int wideReaches(const Shape& shape) {
 }
 
 int costOfHand(const Shape& shape, const Voicing& voicing) {
-  const int indexBarres = areSeveral(shape.under[indexFinger]) ? 1 : 0;
-  return finger * voicing.fingers + indexBarre * indexBarres +
-         upperBarre * (voicing.barres - indexBarres) + reach * (voicing.span + wideReaches(shape)) +
-         height * (voicing.lowestFret + voicing.span);
+  const bool hasIndexBarre = areSeveral(shape.under[indexFinger]);
+  const int underOthers = std::popcount(shape.pressed) - std::popcount(shape.under[indexFinger]);
+  const int otherFingers = voicing.fingers - (voicing.fingers > 0 ? 1 : 0);
+  return finger * voicing.fingers + (hasIndexBarre ? indexBarre : 0) +
+         upperBarre * (underOthers - otherFingers) + span * voicing.span +
+         wideReach * wideReaches(shape) + height * (voicing.lowestFret + voicing.span);
 }
 
 // Whether the string above the bass sounds its fifth or octave.
 bool hasSupportedBass(const Shape& shape, const Frets& frets, const VoicingQuery& query) {
-  constexpr int fifth = 7;
-  const auto pitchOf = [&](StringSet strings) {
-    const auto string = static_cast<std::size_t>(std::countr_zero(strings));
-    return query.openPitches[string] + frets[string];
-  };
-  const int bass = pitchOf(shape.sounding);
-  const PitchClassSet next = noteAt(pitchOf(shape.sounding & (shape.sounding - 1)));
-  return next == noteAt(bass) || next == noteAt(bass + fifth);
+  const PitchClassSet next = query.noteOn(lowestOf(withoutLowest(shape.sounding)), frets);
+  return next == query.bass || next == query.fifthOfBass;
 }
 
 // A power chord is full with three strings and leaves the upper ones alone; any other chord wants
@@ -126,21 +127,19 @@ int costOfSound(const Shape& shape, const Frets& frets, const Voicing& voicing,
   constexpr int fullPowerChord = 3;
   constexpr int fullChord = 4;
   const int upperMutes =
-      query.isPowerChord ? 0 : static_cast<int>(Tuning::stringCount) - 1 - shape.highestString();
+      query.isPowerChord ? 0 : static_cast<int>(frets.size()) - std::bit_width(shape.sounding);
   const bool isThin = voicing.soundingStrings < (query.isPowerChord ? fullPowerChord : fullChord);
   return innerMute * voicing.innerMutes + upperMute * upperMutes +
-         lowerMutes[static_cast<std::size_t>(shape.lowestString())] + (isThin ? thinSound : 0) +
+         lowerMutes[lowestOf(shape.sounding)] + (isThin ? thinSound : 0) +
          (hasSupportedBass(shape, frets, query) ? supportedBass : 0);
 }
 
 int costOfOpenStrings(const Shape& shape, const Voicing& voicing) {
   constexpr int highestHandAtNut = 2;
   if (shape.open == 0) return 0;
-  const StringSet between = shape.pressed == 0 ? 0 : shape.open & spanOf(shape.pressed);
-  const StringSet aboveBass = shape.open & shape.sounding & (shape.sounding - 1);
+  const StringSet aboveBass = shape.open & withoutLowest(shape.sounding);
   const int fretsUp = std::max(0, voicing.lowestFret - highestHandAtNut);
-  return openAtAll + openBetween * std::popcount(between) +
-         openUpTheNeck * fretsUp * std::popcount(aboveBass);
+  return openAtAll + openUpTheNeck * fretsUp * std::popcount(aboveBass);
 }
 
 }  // namespace

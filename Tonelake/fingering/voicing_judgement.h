@@ -7,8 +7,8 @@
 namespace tonelake::Voicings {
 
 /// The facts of a shape and its cost: a sum of small amounts for what the hand has to do and for
-/// what is missing from the sound, the same for every chord. Open E minor, the easiest chord of
-/// all, costs 22; a six-string barre some 60; what few would play, above 100. At least three
+/// what is missing from the sound, the same amounts for every chord. Open E minor costs 17, open C
+/// major 86, which few first choices exceed; some voicings cost more than 200. At least three
 /// strings sound, or two of a power chord, and the fingers are those of findFingers.
 Voicing judgeVoicing(const Frets& frets, const Fingers& fingers,
                      const VoicingQuery& query) noexcept;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "Tonelake/fingering/voicing_connection.h"
 #include "Tonelake/fingering/voicing_query.h"
 #include "Tonelake/fingering/voicing_search.h"
 
@@ -29,6 +30,17 @@ std::vector<Voicing> bestFirst(const std::vector<Voicing>& voicings, WholeNumber
   return best;
 }
 
+// Without the voicings that cost much more than the first: nobody plays an awkward shape to spare
+// a finger. The voicings are in order.
+std::vector<Voicing> reasonable(std::vector<Voicing> voicings) {
+  constexpr int mostAboveBest = 45;
+  const auto end = std::find_if(voicings.begin(), voicings.end(), [&](const Voicing& voicing) {
+    return voicing.cost > voicings.front().cost + mostAboveBest;
+  });
+  voicings.erase(end, voicings.end());
+  return voicings;
+}
+
 }  // namespace
 
 std::vector<Voicing> findVoicings(const Chord& chord, const TuningNames& tuning,
@@ -36,6 +48,16 @@ std::vector<Voicing> findVoicings(const Chord& chord, const TuningNames& tuning,
   const auto query = makeVoicingQuery(chord, tuning, options.capo);
   if (!query) return {};
   return bestFirst(searchVoicings(*query, options), options.limit);
+}
+
+std::vector<Voicing> connectVoicings(const std::vector<Chord>& chords, const TuningNames& tuning,
+                                     const VoicingOptions& options) {
+  std::vector<std::vector<Voicing>> candidates;
+  candidates.reserve(chords.size());
+  for (const Chord& chord : chords) {
+    candidates.push_back(reasonable(findVoicings(chord, tuning, options)));
+  }
+  return connect(candidates);
 }
 
 }  // namespace tonelake::Voicings

@@ -31,4 +31,19 @@ namespace tonelake::Voicings {
 std::vector<Voicing> findVoicings(const Chord& chord, const TuningNames& tuning,
                                   const VoicingOptions& options = {});
 
+/// One voicing for each chord of a sequence, so that the hand has the easiest time from the first
+/// to the last. The costs of the voicings, which hold their stretches and barres, and of the
+/// changes between them are added up, and of all rows of voicings the cheapest is taken. In a
+/// change every fret that the hand moves along the neck costs, and every finger that is lifted,
+/// moved over or put down; a finger that stays on its string and fret is a gain (see
+/// costOfChange). C, A minor, F and G come out as
+///
+///   (x,3,2,0,1,0)  (x,0,2,2,1,0)  (x,x,3,2,1,1)  (x,x,5,4,3,3)
+///
+/// Of each chord the best `options.limit` voicings are considered, and none that is much harder
+/// than its best. Empty when one of the chords has no voicing, see findVoicings. Any thread may
+/// call; takes some tens of microseconds a chord.
+std::vector<Voicing> connectVoicings(const std::vector<Chord>& chords, const TuningNames& tuning,
+                                     const VoicingOptions& options = {});
+
 }  // namespace tonelake::Voicings

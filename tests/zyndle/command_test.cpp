@@ -54,7 +54,13 @@ TEST_F(Command, AnswersWithStatusAndText) {
       {{"chord", "F"}, "1━━━"},
       {{"chord", "F", "--ascii"}, "1==="},
       {{"chord", "C/E"}, "Major Third, Perfect Fifth, Unison"},
-      {{"chord", "C/E", "--limit", "99999"}, "have the root, C, in the bass"},
+      {{"chord", "C/E", "--limit", "99999"}, "Mute the fifth and sixth strings"},
+      {{"chord", "Eb", "--capo", "3"}, "Capo       3"},
+      {{"voicings", "C/E"}, "8 of 126 voicings"},
+      {{"voicings", "Em7add11", "--max-fret", "0", "--limit", "99999"}, "E A D G B E"},
+      {{"voicings", "Eb", "--max-fret", "0"}, "no way to play it"},
+      {{"voicings", "--help"}, "drop D, double drop D"},
+      {{"connect", "| C, G/B | Am", "F |"}, "G/B                Am"},
       {{"chord", "F#m", "--tuning", "Eb Ab Db Gb Bb Eb"}, "E♭, A♭, D♭, G♭, B♭, E♭"},
       {{"chord", "F#m", "--tuning", "half step down", "--ascii"}, "Eb, Ab, Db, Gb, Bb, Eb"},
       {{"chord", "Am", "--svg", "-"}, "<svg"},
@@ -111,6 +117,12 @@ TEST_F(Command, RefusesBadArgumentsInOneLine) {
       {{"chord", "C", "--tuning", "E A D G B"}, "names 5 strings"},
       {{"chord", "C", "--tuning", "B E A D G B E"}, "names 7 strings"},
       {{"chord", "C", "--tuning", "E A D G H E"}, "\"H\" is not a note name"},
+      {{"chord", "C", "--capo", "13"}, "--capo \"13\" is not a whole number from 0 to 12"},
+      {{"voicings", "C", "--max-fret", "-1"},
+       "--max-fret \"-1\" is not a whole number from 0 to 24"},
+      {{"voicings", "C", "--inner-mutes", "5"}, "--inner-mutes \"5\""},
+      {{"connect", "C | H"}, "no chord is named \"H\""},
+      {{"connect", " | "}, "names no chord"},
       {{"settings"}, "a command is missing"},
       {{"settings", "forget"}, "no command \"forget\""},
       {{"settings", "get", "color"}, "no setting \"color\"; there are todayChordCategory"},
@@ -193,14 +205,34 @@ TEST_F(Command, JsonHoldsWhatTheTextTells) {
   EXPECT_EQ(today["position"]["position"].size(), 6U);
   EXPECT_THAT(today["intervals"], testing::Contains("Root"));
 
-  const Value chord = json({"chord", "c/g", "--json", "--limit", "2", "--tuning", "DADGAD"});
+  const Value chord =
+      json({"chord", "c/g", "--json", "--limit", "2", "--tuning", "DADGAD", "--capo", "2"});
   EXPECT_THAT(keysOf(chord),
               testing::ElementsAre("chord", "title", "shortTitle", "notes", "intervals", "names",
-                                   "tuning", "positions", "instructions"));
+                                   "tuning", "capo", "positions", "instructions"));
+  EXPECT_EQ(chord["capo"], 2);
   EXPECT_EQ(chord["title"], "C major/G");
   EXPECT_EQ(chord["tuning"], Value({"D", "A", "D", "G", "A", "D"}));
   EXPECT_EQ(chord["positions"].size(), 2U);
   EXPECT_THAT(chord["names"], testing::Contains("C/G"));
+}
+
+// Shapes are counted from the capo: what sounds as E♭ is played as C.
+TEST_F(Command, CapoKeepsTheShapesAndRaisesTheSound) {
+  const auto playedAs = [this](const std::string& command, const std::string& sounding,
+                               const std::string& played, const std::string& key) {
+    const Value with = json({command, sounding, "--capo", "3", "--json"});
+    const Value without = json({command, played, "--json"});
+    EXPECT_EQ(with[key], without[key]) << command << " " << sounding;
+    EXPECT_FALSE(with[key].empty()) << command << " " << sounding;
+  };
+  playedAs("chord", "Eb", "C", "positions");
+  playedAs("chord", "Eb/G", "C/E", "positions");
+  playedAs("voicings", "Bb7/D", "G7/B", "voicings");
+  const Value row = json({"connect", "Eb Cm", "--capo", "3", "--json"});
+  ASSERT_EQ(row["chords"].size(), 2U);
+  EXPECT_EQ(row["chords"][1]["title"], "C minor");
+  EXPECT_EQ(row["chords"][1]["voicing"]["position"], Value({-1, 0, 2, 2, 1, 0}));
 }
 
 TEST_F(Command, SettingsChangeWhatTodayShows) {

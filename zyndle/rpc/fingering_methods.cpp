@@ -1,9 +1,13 @@
+#include <algorithm>
+
+#include "Tonelake/chords/chord_json.h"
 #include "Tonelake/fingering/chord_engine.h"
 #include "Tonelake/fingering/chord_filters.h"
 #include "Tonelake/fingering/chord_position_json.h"
 #include "Tonelake/fingering/chord_positions.h"
 #include "Tonelake/fingering/chord_positions_cache.h"
 #include "Tonelake/fingering/position_resolution.h"
+#include "Tonelake/fingering/voicings.h"
 #include "zyndle/rpc/encoding.h"
 #include "zyndle/rpc/method_table.h"
 #include "zyndle/rpc/parameters.h"
@@ -13,6 +17,7 @@ namespace {
 
 using tonelake::WholeNumber;
 using tonelake::WholeNumbers;
+using tonelake::Voicings::VoicingOptions;
 
 constexpr WholeNumber allPositions = -1;
 
@@ -54,6 +59,47 @@ json::Value assignFingers(const json::Node& parameters, MethodContext&) {
   return tonelake::assignFingers(sixNumbers(parameters.member("frets")));
 }
 
+// A number of frets, strings or shapes from 0 up; larger ones than any guitar has change nothing.
+int smallNumberOr(const json::Node& parameters, std::string_view key, int fallback) {
+  constexpr WholeNumber large = 1000;
+  const auto number = parameters.optionalMember(key);
+  return number ? static_cast<int>(std::min(number->wholeNumber(0), large)) : fallback;
+}
+
+VoicingOptions voicingOptions(const json::Node& parameters) {
+  constexpr WholeNumber highestCapo = 12;
+  VoicingOptions options;
+  if (const auto capo = parameters.optionalMember("capo")) {
+    options.capo = static_cast<int>(capo->wholeNumber(0, highestCapo));
+  }
+  return options;
+}
+
+json::Value findVoicings(const json::Node& parameters, MethodContext&) {
+  VoicingOptions options = voicingOptions(parameters);
+  const auto limit = parameters.optionalMember("limit");
+  options.limit = limit ? limit->wholeNumber(allPositions) : allPositions;
+  options.highestFret = smallNumberOr(parameters, "maxFret", options.highestFret);
+  options.innerMutes = smallNumberOr(parameters, "maxInnerMutes", options.innerMutes);
+  options.openStringsAboveFifthFret = flagOr(parameters, "openStringsAboveFifthFret", false);
+  return encodeList(tonelake::Voicings::findVoicings(chordParameter(parameters),
+                                                     tuningParameter(parameters), options),
+                    [](const tonelake::Voicings::Voicing& voicing) {
+                      json::Value record = tonelake::encodeChordPosition(voicing.position);
+                      record["cost"] = voicing.cost;
+                      return record;
+                    });
+}
+
+json::Value connectVoicings(const json::Node& parameters, MethodContext&) {
+  return encodeList(tonelake::Voicings::connectVoicings(
+                        json::decodeList(parameters.member("chords"), tonelake::decodeChord),
+                        tuningParameter(parameters), voicingOptions(parameters)),
+                    [](const tonelake::Voicings::Voicing& voicing) {
+                      return tonelake::encodeChordPosition(voicing.position);
+                    });
+}
+
 json::Value chordFilters(const json::Node& parameters, MethodContext&) {
   const tonelake::ChordFilters& filters = tonelake::ChordFilters::shared();
   const auto label = parameters.optionalMember("label");
@@ -66,6 +112,8 @@ constexpr MethodRow rows[] = {
     {"resolveChordPosition", resolveChordPosition},
     {"generateChordShapes", generateChordShapes},
     {"assignFingers", assignFingers},
+    {"findVoicings", findVoicings},
+    {"connectVoicings", connectVoicings},
     {"chordFilters", chordFilters},
 };
 

@@ -1,0 +1,135 @@
+#include "zyndle/connect_command.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "Tonelake/chords/chord_json.h"
+#include "Tonelake/chords/chord_naming.h"
+#include "Tonelake/fingering/voicings.h"
+#include "Tonelake/foundation/text.h"
+#include "zyndle/chord_name.h"
+#include "zyndle/command_error.h"
+#include "zyndle/drawing.h"
+#include "zyndle/host.h"
+#include "zyndle/instrument_options.h"
+#include "zyndle/output_options.h"
+#include "zyndle/voicing_record.h"
+
+namespace zyndle {
+namespace {
+
+using tonelake::Chord;
+using tonelake::Voicings::Voicing;
+
+constexpr const char* description = "Choose shapes that lie close for a row of chords";
+
+constexpr const char* introduction =
+    R"(Chords are written without blanks inside, with blanks, commas or bar lines
+between them.
+
+)";
+
+constexpr const char* examples = R"(
+Examples:
+  zyndle connect "C G/B Am F"
+  zyndle connect Dm7 G7 Cmaj7
+  zyndle connect "| D | A | Bm | G |" --tuning "drop D"
+  zyndle connect "G Em C D" --capo 2 --json)";
+
+struct ConnectOptions {
+  std::vector<std::string> names;
+  InstrumentOptions instrument;
+  OutputOptions output;
+};
+
+// The names between blanks, commas and bar lines.
+std::vector<std::string> namesIn(const std::vector<std::string>& arguments) {
+  constexpr std::string_view separators = " ,|\t\r\n";
+  const std::string text = tonelake::join(arguments, " ");
+  std::vector<std::string> names;
+  std::size_t begin = text.find_first_not_of(separators);
+  while (begin != std::string::npos) {
+    const std::size_t end = std::min(text.find_first_of(separators, begin), text.size());
+    names.push_back(text.substr(begin, end - begin));
+    begin = text.find_first_not_of(separators, end);
+  }
+  return names;
+}
+
+std::vector<Chord> readChords(const ConnectOptions& options) {
+  std::vector<Chord> chords;
+  for (const std::string& name : namesIn(options.names)) {
+    chords.push_back(readChordName(name, options.output.ascii));
+  }
+  if (chords.empty()) refuse("CHORDS names no chord");
+  return chords;
+}
+
+std::vector<Voicing> connect(const std::vector<Chord>& chords, const Instrument& instrument) {
+  tonelake::Voicings::VoicingOptions options;
+  options.capo = instrument.capo;
+  std::vector<Voicing> row =
+      tonelake::Voicings::connectVoicings(chords, instrument.tuning, options);
+  if (!row.empty()) return row;
+  for (const Chord& chord : chords) {
+    if (tonelake::Voicings::findVoicings(chord, instrument.tuning, options).empty()) {
+      fail("there is no way to play " + tonelake::Chords::getTitleForChord(chord) +
+           " in this tuning");
+    }
+  }
+  fail("there is no way to play these chords");
+}
+
+std::string jsonOf(const std::vector<Chord>& chords, const std::vector<Voicing>& row,
+                   const Instrument& instrument) {
+  tonelake::json::Value object;
+  object["tuning"] = instrument.tuning;
+  object["capo"] = instrument.capo;
+  object["chords"] = tonelake::json::Value::array();
+  for (std::size_t i = 0; i < row.size(); ++i) {
+    tonelake::json::Value& entry = object["chords"].emplace_back();
+    entry["chord"] = tonelake::encodeChord(chords[i]);
+    entry["title"] = tonelake::Chords::getTitleForChord(chords[i]);
+    entry["voicing"] = encodeVoicing(row[i]);
+  }
+  return tonelake::json::write(object) + '\n';
+}
+
+std::string textOf(const std::vector<Chord>& chords, const std::vector<Voicing>& row,
+                   const Instrument& instrument, const DrawingStyle& style) {
+  std::vector<NamedShape> shapes;
+  for (std::size_t i = 0; i < row.size(); ++i) shapes.push_back({chords[i], row[i].position});
+  const std::string rows = instrumentRows(instrument);
+  return rows + (rows.empty() ? "" : "\n") +
+         drawNamedInTerminal(shapes, soundingStrings(instrument), style);
+}
+
+void showConnected(const ConnectOptions& options) {
+  checkOutputOptions(options.output);
+  const Instrument instrument = readInstrument(options.instrument);
+  installHost(options.output.isForPrograms());
+  const std::vector<Chord> chords = readChords(options);
+  const std::vector<Voicing> row = connect(chords, instrument);
+  writeText(options.output, options.output.json
+                                ? jsonOf(chords, row, instrument)
+                                : textOf(chords, row, instrument, drawingStyle(options.output)));
+}
+
+}  // namespace
+
+void addConnectCommand(CLI::App& app, Action& action) {
+  const auto options = std::make_shared<ConnectOptions>();
+  CLI::App& command = *app.add_subcommand("connect", description);
+  command.footer(std::string(introduction) + instrumentHelp + examples);
+  command.add_option("CHORDS", options->names, "The names of the chords, in their order")
+      ->required()
+      ->type_name("");
+  addInstrumentOptions(command, options->instrument);
+  addTextOptions(command, options->output);
+  command.callback([options, &action] { action = [options] { showConnected(*options); }; });
+}
+
+}  // namespace zyndle

@@ -1,0 +1,53 @@
+#include "zyndle/instrument_options.h"
+
+#include <CLI/CLI.hpp>
+
+#include "Tonelake/theory/spelling_tables.h"
+#include "Tonelake/theory/tuning_parsing.h"
+#include "zyndle/command_error.h"
+#include "zyndle/number_option.h"
+#include "zyndle/text_layout.h"
+
+namespace zyndle {
+
+using tonelake::TuningNames;
+
+void addInstrumentOptions(CLI::App& command, InstrumentOptions& options) {
+  command
+      .add_option("--tuning", options.tuning, "The open strings, lowest first, or a tuning's name")
+      ->type_name("TUNING");
+  command.add_option("--capo", options.capo, "The capo's fret, 0 to 12 (0)")->type_name("N");
+}
+
+Instrument readInstrument(const InstrumentOptions& options) {
+  constexpr int highestCapo = 12;
+  Instrument instrument;
+  if (options.tuning) {
+    tonelake::ParsedTuning parsed = tonelake::Tuning::parseTuning(*options.tuning);
+    if (parsed.names.empty()) refuse("--tuning: " + parsed.problem);
+    instrument.tuning = std::move(parsed.names);
+  }
+  instrument.capo = static_cast<int>(readNumber("--capo", options.capo, 0, 0, highestCapo));
+  return instrument;
+}
+
+TuningNames soundingStrings(const Instrument& instrument) {
+  if (instrument.capo == 0) return instrument.tuning;
+  TuningNames names;
+  for (const std::string& open : instrument.tuning) {
+    const int pitch = tonelake::noteIndexByName().at(open) + instrument.capo;
+    names.emplace_back(tonelake::notesArrayRegular[static_cast<std::size_t>(pitch)]);
+  }
+  return names;
+}
+
+std::string instrumentRows(const Instrument& instrument) {
+  std::string rows;
+  if (instrument.tuning != tonelake::Tuning::standard) {
+    rows += labelledRow("Tuning", instrument.tuning);
+  }
+  if (instrument.capo != 0) rows += labelledRow("Capo", {std::to_string(instrument.capo)});
+  return rows;
+}
+
+}  // namespace zyndle
