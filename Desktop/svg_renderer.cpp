@@ -8,34 +8,14 @@
 
 #include "Desktop/svg_gradients.h"
 #include "Desktop/svg_text.h"
+#include "Desktop/typefaces.h"
+#include "TodayChordExtension/diagram/icons.h"
 
 namespace desktop {
 namespace {
 
 using todaychord::Color;
 using todaychord::Paint;
-
-// A typeface of the program as browsers ask for it. The music font holds the signs ♯ ♭ 𝄪.
-struct WebFont {
-  const char* name;
-  const char* family;
-  const char* weight;
-};
-
-// clang-format off
-constexpr WebFont webFonts[] = {
-    {"Space Grotesk Medium",  "'Space Grotesk', 'Noto Music', sans-serif", "500"},
-    {"SpaceGrotesk-SemiBold", "'Space Grotesk', 'Noto Music', sans-serif", "600"},
-};
-// clang-format on
-constexpr WebFont otherFont{"", "sans-serif", "400"};
-
-const WebFont& findWebFont(const std::string& name) {
-  for (const WebFont& font : webFonts) {
-    if (name == font.name) return font;
-  }
-  return otherFont;
-}
 
 // Blanks at the ends and one after another are dropped by browsers unless they are told not to.
 bool losesBlanks(const std::string& text) {
@@ -86,35 +66,46 @@ class SvgWriter {
       setAttribute(node, "stroke-miterlimit", item.stroke->miterLimit);
       if (item.stroke->cap == todaychord::LineCap::round)
         setAttribute(node, "stroke-linecap", "round");
+      if (item.stroke->join == todaychord::LineJoin::round)
+        setAttribute(node, "stroke-linejoin", "round");
     }
     setOpacity(node, "opacity", item.opacity);
   }
 
   void writeItem(const todaychord::TextItem& item, pugi::xml_node parent) {
     pugi::xml_node node = parent.append_child("text");
-    const WebFont& font = findWebFont(item.font.name);
+    const Typeface& typeface = typefaceCalled(item.font.name);
     setAttribute(node, "x", item.baseline.x);
     setAttribute(node, "y", item.baseline.y);
     const std::string text = cleanForXml(item.text);
-    const std::string shifts = formatSignShifts(text, item.font.size);
-    if (!shifts.empty()) setAttribute(node, "dy", shifts);
     if (losesBlanks(text)) setAttribute(node, "xml:space", "preserve");
-    setAttribute(node, "font-family", font.family);
-    setAttribute(node, "font-weight", font.weight);
+    setAttribute(node, "font-family", typeface.webFamilies);
+    setAttribute(node, "font-weight", typeface.weight);
     setAttribute(node, "font-size", item.font.size);
     if (item.anchor != todaychord::TextAnchor::start) {
       setAttribute(node, "text-anchor",
                    item.anchor == todaychord::TextAnchor::middle ? "middle" : "end");
     }
     setPaint(node, "fill", item.color);
-    node.text().set(text.c_str());
+    writeSpans(raiseMusicSigns(text, item.font.size), node);
+  }
+
+  // An empty text around each span keeps line ends out of the line.
+  static void writeSpans(const std::vector<TextSpan>& spans, pugi::xml_node text) {
+    for (const TextSpan& span : spans) {
+      pugi::xml_node parent = text;
+      if (span.shift != 0) {
+        text.append_child(pugi::node_pcdata);
+        parent = text.append_child("tspan");
+        setAttribute(parent, "dy", span.shift);
+      }
+      parent.append_child(pugi::node_pcdata).set_value(span.text.c_str());
+    }
+    text.append_child(pugi::node_pcdata);
   }
 
   void writeItem(const todaychord::ImageItem& item, pugi::xml_node parent) {
-    pugi::xml_node node = parent.append_child("use");
-    setAttribute(node, "href", '#' + item.name);
-    setFrame(node, item.frame);
-    setPaint(node, "color", item.tint);
+    write(todaychord::drawIcon(item), parent);
   }
 
   void writeItem(const todaychord::LinkArea& item, pugi::xml_node parent) {
@@ -133,7 +124,7 @@ class SvgWriter {
     write(group.items, node);
   }
 
-  // `name` is the attribute: fill, stroke or color. Gradients carry their opacity themselves.
+  // `name` is the attribute: fill or stroke. Gradients carry their opacity themselves.
   void setPaint(pugi::xml_node node, const std::string& name, const Paint& paint) {
     const auto* color = std::get_if<Color>(&paint);
     if (color == nullptr) {
@@ -141,7 +132,7 @@ class SvgWriter {
       return;
     }
     setAttribute(node, name.c_str(), formatColor(*color));
-    setOpacity(node, (name == "color" ? "opacity" : name + "-opacity").c_str(), color->opacity);
+    setOpacity(node, (name + "-opacity").c_str(), color->opacity);
   }
 
   SvgGradients gradients_;
@@ -172,6 +163,9 @@ std::string renderSvg(const todaychord::Scene& scene, const std::string& idPrefi
   setAttribute(svg, "height", scene.height);
   setAttribute(svg, "viewBox",
                "0 0 " + formatNumber(scene.width) + ' ' + formatNumber(scene.height));
+  // Letters stand as they were measured, at every size: unhinted, and none joined to "fi".
+  setAttribute(svg, "text-rendering", "geometricPrecision");
+  setAttribute(svg, "style", "font-variant-ligatures:none");
   writeRole(svg, scene, idPrefix);
   pugi::xml_node definitions = svg.append_child("defs");
   SvgWriter(definitions, idPrefix).write(scene.items, svg);

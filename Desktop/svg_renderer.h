@@ -8,8 +8,7 @@ namespace desktop {
 
 /// The scene as an SVG document: it scales, its texts are text, and its title and description are
 /// what screen readers say. Bytes that are no UTF-8 and characters that XML forbids become
-/// U+FFFD. Images and icons are referred to by their ids, which whoever embeds the picture
-/// defines. `idPrefix` keeps the ids of several pictures in one page apart.
+/// U+FFFD. `idPrefix` keeps the ids of several pictures in one page apart.
 std::string renderSvg(const todaychord::Scene& scene, const std::string& idPrefix = "");
 
 }  // namespace desktop

@@ -1,11 +1,6 @@
 #include "Desktop/svg_text.h"
 
-#include <algorithm>
-#include <charconv>
-#include <cmath>
-#include <cstddef>
-#include <iterator>
-
+#include "Desktop/typefaces.h"
 #include "Tonelake/foundation/text.h"
 
 namespace desktop {
@@ -43,26 +38,7 @@ bool isAllowed(std::string_view character) {
   return byte < 0x80 && (byte >= 0x20 || byte == '\t' || byte == '\n' || byte == '\r');
 }
 
-bool isMusicSign(std::string_view character) {
-  constexpr std::string_view signs[] = {"♭", "♮", "♯", "𝄪", "𝄫"};
-  return std::find(std::begin(signs), std::end(signs), character) != std::end(signs);
-}
-
 }  // namespace
-
-std::string formatNumber(double number) {
-  constexpr int decimals = 3;
-  constexpr double largest = 1e9;  // far beyond any picture; keeps the digits in the buffer
-  if (!std::isfinite(number)) return "0";
-  char buffer[32];
-  const auto [end, error] = std::to_chars(std::begin(buffer), std::end(buffer),
-                                          std::fmin(std::fmax(number, -largest), largest),
-                                          std::chars_format::fixed, decimals);
-  std::string text(std::begin(buffer), end);
-  text.erase(text.find_last_not_of('0') + 1);
-  if (text.back() == '.') text.pop_back();
-  return text == "-0" ? "0" : text;
-}
 
 std::string formatColor(const todaychord::Color& color) {
   constexpr char digits[] = "0123456789ABCDEF";
@@ -78,21 +54,19 @@ std::string formatPath(const todaychord::Path& path) {
   return text;
 }
 
-std::string formatSignShifts(std::string_view text, double fontSize) {
-  constexpr double rise = 0.12;  // of the font size
-  std::string shifts;
-  std::size_t upToLastShift = 0;
+std::vector<TextSpan> raiseMusicSigns(std::string_view text, double fontSize) {
+  std::vector<TextSpan> spans;
   bool isRaised = false;
   for (const std::string_view character : tonelake::splitCharacters(text)) {
     const bool isSign = isMusicSign(character);
-    const double shift = isSign == isRaised ? 0 : isSign ? -rise * fontSize : rise * fontSize;
-    shifts += (shifts.empty() ? "" : " ") + formatNumber(shift);
-    if (shift != 0) upToLastShift = shifts.size();
-    // Shifts count UTF-16 units, of which 𝄪 takes two.
-    if (character.size() > 3) shifts += " 0";
+    if (spans.empty() || isSign != isRaised) {
+      const double rise = musicSignRise * fontSize;
+      spans.push_back({"", isSign == isRaised ? 0 : isSign ? -rise : rise});
+    }
+    spans.back().text += character;
     isRaised = isSign;
   }
-  return shifts.substr(0, upToLastShift);
+  return spans;
 }
 
 std::string cleanForXml(std::string_view text) {

@@ -57,12 +57,14 @@ struct RadialGradient {
 using Paint = std::variant<Color, LinearGradient, RadialGradient>;
 
 enum class LineCap { butt, round };
+enum class LineJoin { miter, round };
 
 struct Stroke {
   Paint paint;
   double width = 1;
   double miterLimit = 10;  ///< longest tip of a corner, in widths
   LineCap cap = LineCap::butt;
+  LineJoin join = LineJoin::miter;
 
   friend bool operator==(const Stroke&, const Stroke&) = default;
 };

@@ -16,23 +16,26 @@ struct WidthClass {
 // each rounded up.
 // clang-format off
 constexpr WidthClass widthClasses[] = {
-    {0.30, "|Iilj',!.:;` "},
-    {0.46, "[]/\\)r(1f-{}t"},
+    {0.30, "|Iilj',!.:;`·’‘ "},
+    {0.46, "[]/\\)r(1f-{}t•"},
     {0.48, "♭♮𝄪𝄫"},
     {0.56, "♯"},
-    {0.90, "wmMW%"},
-    {1.03, "@"},
+    {0.68, "–“”"},
+    {0.90, "wmMW%ÆæŴŵ©«»¼½¾ďĲ—…"},
+    {1.03, "@œŒ"},
+    {1.28, "№ǄǅǆǇǊ"},
 };
 // clang-format on
-constexpr double commonWidth = 0.68;  // every other letter, digit and sign
+constexpr double commonWidth = 0.68;  // every other letter, digit and sign of western languages
 constexpr double widestWidth = 1.05;  // East Asian letters, and what is not known better
 
 double characterWidth(std::string_view character) {
   for (const WidthClass& widthClass : widthClasses) {
     if (widthClass.characters.find(character) != std::string_view::npos) return widthClass.width;
   }
-  // From U+2E80 on, which UTF-8 writes as E2 BA 80, characters may fill a square.
-  return character >= "\xE2\xBA\x80" ? widestWidth : commonWidth;
+  // From U+0180 on, which UTF-8 writes as C6 80, come other scripts: Ж is 0.93 wide, 日 fills a
+  // square.
+  return character >= "\xC6\x80" ? widestWidth : commonWidth;
 }
 
 }  // namespace

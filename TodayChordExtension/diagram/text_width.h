@@ -5,7 +5,8 @@
 namespace todaychord {
 
 /// A width that `text` does not exceed in the program's typefaces at `fontSize`, in the unit of
-/// the size. Letters outside ASCII are taken to be as wide as their script's widest.
+/// the size. Letters that these lack, and a machine sets in fonts of its own, are taken to fill a
+/// square.
 double largestTextWidth(std::string_view text, double fontSize);
 
 /// The size, at most `fontSize`, at which `text` is no wider than `width`.

@@ -5,13 +5,13 @@
 
 namespace tonelake {
 
-/// One file of Tonelake/resources/, compiled in.
+/// One file that is compiled in.
 struct EmbeddedResource {
   std::string_view fileName;  ///< for example "jazz_chords.json"
   std::string_view contents;
 };
 
-/// Every file named in Tonelake/CMakeLists.txt. Written by the build.
+/// Every file of Tonelake/resources/ that Tonelake/CMakeLists.txt names. Written by the build.
 std::span<const EmbeddedResource> embeddedResources() noexcept;
 
 }  // namespace tonelake

@@ -162,14 +162,41 @@ TEST(SvgText, WritesNumbersShortAndWithoutALocale) {
 }
 
 TEST(SvgText, RaisesMusicSigns) {
-  const std::pair<const char*, const char*> rows[] = {{"C major", ""},
-                                                      {"F♯m", "0 -1.2 1.2"},
-                                                      {"B♭♭/D", "0 -1.2 0 1.2"},
-                                                      {"♭5", "-1.2 1.2"},
-                                                      {"F𝄪m", "0 -1.2 0 1.2"}};
-  for (const auto& [text, shifts] : rows) {
-    EXPECT_EQ(formatSignShifts(text, 10), shifts) << text;
+  struct Case {
+    std::string text;
+    std::vector<TextSpan> spans;
+  };
+  for (const Case& each : std::vector<Case>{{"C major", {{"C major", 0}}},
+                                            {"", {}},
+                                            {"F♯m", {{"F", 0}, {"♯", -1.2}, {"m", 1.2}}},
+                                            {"B♭♭/D", {{"B", 0}, {"♭♭", -1.2}, {"/D", 1.2}}},
+                                            {"♭5", {{"♭", -1.2}, {"5", 1.2}}},
+                                            {"F𝄪", {{"F", 0}, {"𝄪", -1.2}}}}) {
+    EXPECT_EQ(raiseMusicSigns(each.text, 10), each.spans) << each.text;
   }
+}
+
+// Line ends between the pieces of a line would be blanks in the picture.
+TEST(SvgRenderer, KeepsALineInOnePiece) {
+  const std::string text = "♭5 B♭♭ F♯";
+  const std::string svg =
+      renderSvg({9, 9, "", "", {{TextItem{text, {"font", 10}, TextAnchor::end, {}, {}}}}});
+  const ParsedSvg parsed(svg);
+  std::string read;
+  for (const auto& piece : parsed.svg.select_nodes("/svg/text//text()")) {
+    read += piece.node().value();
+  }
+  EXPECT_EQ(read, text) << svg;
+  EXPECT_EQ(parsed.count("//tspan"), 5U);
+}
+
+TEST(SvgRenderer, DrawsIcons) {
+  const ParsedSvg parsed(renderSvg(
+      {9, 9, "", "", {{todaychord::ImageItem{"chevron.right", {0, 0, 48, 48}, {0xCC66DA}}}}}));
+  const pugi::xml_node path = parsed.first("/svg/path");
+  EXPECT_STREQ(path.attribute("d").value(), "M18 10L32 24L18 38");
+  EXPECT_STREQ(path.attribute("stroke").value(), "#CC66DA");
+  EXPECT_STREQ(path.attribute("stroke-linejoin").value(), "round");
 }
 
 }  // namespace

@@ -1,0 +1,110 @@
+#include "Desktop/glyph_layout.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "Desktop/font_library.h"
+#include "Desktop/typefaces.h"
+#include "Tonelake/foundation/text.h"
+
+// "B♭m" at 10: B and m come from the text face; ♭ from the music face, raised by 1.2. That is
+// three runs. Kerning brings letters of one run together.
+
+namespace desktop {
+namespace {
+
+constexpr std::string_view replacement = "\xEF\xBF\xBD";  // U+FFFD
+
+// What only tells other letters how to look takes no room and is not drawn: joiners, marks of
+// direction, variation selectors, the byte order mark.
+bool isInvisible(std::string_view character) {
+  struct Range {
+    std::string_view first;
+    std::string_view last;
+  };
+  constexpr Range ranges[] = {
+      {"\u00AD", "\u00AD"}, {"\u200B", "\u200F"}, {"\u202A", "\u202E"},
+      {"\u2060", "\u206F"}, {"\uFE00", "\uFE0F"}, {"\uFEFF", "\uFEFF"},
+  };
+  return std::any_of(std::begin(ranges), std::end(ranges), [&](const Range& range) {
+    return character >= range.first && character <= range.last;
+  });
+}
+
+// One character as it is set.
+std::string_view clean(std::string_view character) {
+  const auto byte = static_cast<unsigned char>(character.front());
+  if (character.size() > 1) return character;
+  if (byte == '\t' || byte == '\n' || byte == '\r') return " ";
+  constexpr unsigned char deleteControl = 0x7F;
+  return byte < ' ' || byte >= deleteControl ? replacement : character;
+}
+
+struct FoundGlyph {
+  const FontFace* face;
+  unsigned glyph;
+};
+
+FoundGlyph findGlyph(std::string_view character, const FontFace& preferred, int weight) {
+  if (const unsigned glyph = preferred.glyphOf(character); glyph != 0) return {&preferred, glyph};
+  const FontFace& music = shippedFace(musicSignsFile);
+  if (const unsigned glyph = music.glyphOf(character); glyph != 0) return {&music, glyph};
+  const FontFace* system = systemFaceFor(character, weight);
+  return system == nullptr ? FoundGlyph{&preferred, 0}
+                           : FoundGlyph{system, system->glyphOf(character)};
+}
+
+// Writes letters behind one another.
+class LineSetter {
+ public:
+  explicit LineSetter(const todaychord::Font& font)
+      : typeface_(typefaceCalled(font.name)),
+        preferred_(shippedFace(typeface_.file)),
+        size_(font.size) {}
+
+  void add(std::string_view character) {
+    const auto [face, glyph] = findGlyph(character, preferred_, typeface_.weight);
+    if (line_.runs.empty() || line_.runs.back().face != face) {
+      line_.runs.push_back({face, "", {}, {}});
+    }
+    GlyphRun& run = line_.runs.back();
+    if (!run.glyphs.empty()) {
+      const auto before = static_cast<unsigned>(run.glyphs.back().index);
+      line_.width += face->kerningBetween(before, glyph) * size_;
+    }
+    const double rise = isMusicSign(character) ? musicSignRise * size_ : 0;
+    run.text += character;
+    run.glyphs.push_back({glyph, line_.width, -rise});
+    run.clusters.push_back({static_cast<int>(character.size()), 1});
+    line_.width += face->advanceOf(glyph) * size_;
+  }
+
+  GlyphLine finish() { return std::move(line_); }
+
+ private:
+  const Typeface& typeface_;
+  const FontFace& preferred_;
+  double size_;
+  GlyphLine line_;
+};
+
+}  // namespace
+
+GlyphLine layOutGlyphs(std::string_view text, const todaychord::Font& font) {
+  LineSetter setter(font);
+  for (const std::string_view character : tonelake::splitCharacters(text)) {
+    if (!isInvisible(character)) setter.add(clean(character));
+  }
+  return setter.finish();
+}
+
+std::string cleanLine(std::string_view text) {
+  std::string cleaned;
+  for (const std::string_view character : tonelake::splitCharacters(text)) {
+    cleaned += clean(character);
+  }
+  return cleaned;
+}
+
+}  // namespace desktop
