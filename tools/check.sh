@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# tools/check.sh: what takes too long for every change: the lints, and the tests again under the
+# sanitizers. Cheap before dear.
+set -euo pipefail
+# shellcheck source-path=SCRIPTDIR source=set_up.sh
+source "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/set_up.sh"
+
+"$root/tools/tidy.sh"
+(cd "$root" && shellcheck --external-sources zyndle.sh test.sh tools/*.sh tests/set_up/*.sh .ci/run)
+for preset in asan tsan; do
+  test_preset "$preset"
+done
