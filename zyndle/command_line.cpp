@@ -14,6 +14,7 @@
 #include "zyndle/rpc_command.h"
 #include "zyndle/settings_command.h"
 #include "zyndle/today_command.h"
+#include "zyndle/widget_command.h"
 
 namespace zyndle {
 namespace {
@@ -25,6 +26,7 @@ constexpr const char* examples = R"(Examples:
   zyndle today                     today's chord and how to play it
   zyndle chord F#m7b5              a chord by its name
   zyndle chord G --tuning DADGAD   its shapes in another tuning
+  zyndle widget chord > today.svg  a widget as a picture
   zyndle settings list             what you have set
   zyndle COMMAND --help            more about a command)";
 
@@ -96,6 +98,7 @@ void runCommandLine(int argc, const char* const* argv) {
   app.require_subcommand(1);
   addTodayCommand(app, action);
   addChordCommand(app, action);
+  addWidgetCommand(app, action);
   addRecentCommand(app, action);
   addCollectionsCommand(app, action);
   addSettingsCommand(app, action);
