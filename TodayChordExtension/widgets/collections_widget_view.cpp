@@ -30,13 +30,26 @@ SceneItems drawFoot(const WidgetCollectionItem& item, const Rectangle& frame) {
   const CornerRadii radii{0, 0, tall::cardRadius, tall::cardRadius};
   SceneItems items{{PathItem{roundedRectangle(foot, radii), widgetPalette::collectionCaption}}};
   const auto add = [&](const std::string& text, double size, const Color& color, double y) {
-    items.push_back(
-        {fitLine(text, {{regularFont, size}, color}, {frame.x + tall::cardPadding, bottom - y},
-                 frame.width - 2 * tall::cardPadding)});
+    const Point baseline{frame.x + layout::textPadding, bottom - y};
+    items.push_back({fitLine(text, {{regularFont, size}, color}, baseline,
+                             frame.width - 2 * layout::textPadding)});
   };
+  if (item.title.empty()) {
+    add(item.subtitle, layout::titleFont, widgetPalette::heading, layout::loneTitleFromBottom);
+    return items;
+  }
   add(item.title, layout::titleFont, widgetPalette::heading, layout::titleFromBottom);
   add(item.subtitle, layout::subtitleFont, widgetPalette::subtitle, layout::subtitleFromBottom);
   return items;
+}
+
+SceneItems drawNoCollections(const Rectangle& frame) {
+  const ImageItem icon = drawCentred(stackIcon, frame, layout::emptyIcon, widgetPalette::quietIcon);
+  const TextStyle style{
+      {regularFont, layout::allFont}, widgetPalette::subtitle, TextAnchor::middle};
+  const Point baseline{frame.x + frame.width / 2,
+                       icon.frame.y + icon.frame.height + layout::emptyTextBelow};
+  return {{icon}, {fitLine("No collections yet", style, baseline, frame.width)}};
 }
 
 SceneItems drawAllRow() {
@@ -76,6 +89,7 @@ SceneItems draw(const WidgetCollectionCard& card, const Rectangle& frame) {
 }
 
 SceneItems draw(const CollectionGrid& grid, const Rectangle& frame) {
+  if (grid.collections.empty()) return drawNoCollections(frame);
   SceneItems items;
   const std::size_t count = std::min(grid.collections.size(), CollectionsEntry::capacity);
   int place = 0;

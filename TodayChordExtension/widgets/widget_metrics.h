@@ -51,7 +51,7 @@ inline constexpr double diagramInk = diagramBottom - diagramTop;                
 namespace smallChord {
 inline constexpr double diagramScale = 1.15;
 inline constexpr double titleFont = 17;
-inline constexpr double titleBaseline = 28;
+inline constexpr double titleBaseline = 26;
 inline constexpr double titleWidth = 138;
 inline constexpr double diagramY = 35;
 inline constexpr double icon = 64;  // where there is no chord
@@ -161,8 +161,8 @@ inline constexpr double titleBaseline = 112;
 inline constexpr double tonesBaseline = 135;
 inline constexpr double buttonY = 174;
 inline constexpr double icon = 96;
-inline constexpr double toolIcon = 34;
-inline constexpr double toolField = 58;  // the square behind a tool's icon
+inline constexpr double toolIcon = 38;
+inline constexpr double toolField = 64;  // the square behind a tool's icon
 inline constexpr double toolFieldRadius = 16;
 inline constexpr double toolFont = 15;
 inline constexpr double toolTitleFromBottom = 22;
@@ -186,10 +186,14 @@ inline constexpr double allFont = 15;
 inline constexpr double chevron = 18;
 inline constexpr double captionHeight = 50;  // the dark foot of a card
 inline constexpr double artwork = 46;
-inline constexpr double titleFont = 14;
+inline constexpr double textPadding = 12;
+inline constexpr double titleFont = 13;
 inline constexpr double titleFromBottom = 28;
 inline constexpr double subtitleFont = 11.5;
 inline constexpr double subtitleFromBottom = 12;
+inline constexpr double loneTitleFromBottom = 20;  // of a collection without a title
+inline constexpr double emptyIcon = 96;            // where there is no collection
+inline constexpr double emptyTextBelow = 40;       // from the icon to the text's baseline
 }  // namespace collections
 
 }  // namespace todaychord::widgetMetrics

@@ -12,8 +12,8 @@ namespace {
 
 constexpr const char* ellipsis = "…";
 
-// The longest beginning of `text` that fits in with an ellipsis. A blank or line end before the
-// ellipsis goes too: "My songs…", not "My songs …".
+// The longest beginning of `text` that fits in with an ellipsis. Blanks before the ellipsis go too:
+// "My songs…", not "My songs …".
 std::string cut(const std::string& text, double fontSize, double width) {
   const double room = width - largestTextWidth(ellipsis, fontSize);
   std::string kept;
