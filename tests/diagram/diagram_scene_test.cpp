@@ -1,12 +1,11 @@
 #include "TodayChordExtension/diagram/diagram_scene.h"
 
-#include <cmath>
-
 #include <gtest/gtest.h>
 
 #include "TodayChordExtension/diagram/diagram_layout.h"
 #include "TodayChordExtension/diagram/scene_placement.h"
 #include "tests/support/chord_views.h"
+#include "tests/support/contrast.h"
 #include "tests/support/scene_parts.h"
 
 namespace todaychord {
@@ -16,10 +15,13 @@ using testing::barreF;
 using testing::Box;
 using testing::boxOf;
 using testing::collect;
+using testing::contrast;
 using testing::highDm;
 using testing::itemsOf;
 using testing::manyViews;
 using testing::openC;
+using testing::over;
+using testing::readable;
 
 std::vector<Box> boxesOf(const Scene& scene) {
   std::vector<Box> boxes;
@@ -204,33 +206,7 @@ TEST(DiagramScene, SaysWhatItShows) {
   EXPECT_EQ(card.description, scene.description);
 }
 
-// Relative luminance and contrast as the web's accessibility guidelines define them.
-double luminance(const Color& color) {
-  const auto channel = [&](unsigned shift) {
-    const double value = (color.rgb >> shift & 0xFFU) / 255.0;
-    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * channel(16) + 0.7152 * channel(8) + 0.0722 * channel(0);
-}
-
-Color over(const Color& front, const Color& back) {
-  std::uint32_t rgb = 0;
-  for (const unsigned shift : {0U, 8U, 16U}) {
-    const double mixed = front.opacity * (front.rgb >> shift & 0xFFU) +
-                         (1 - front.opacity) * (back.rgb >> shift & 0xFFU);
-    rgb |= static_cast<std::uint32_t>(std::lround(mixed)) << shift;
-  }
-  return {rgb};
-}
-
-double contrast(const Color& text, const Color& back) {
-  const double a = luminance(over(text, back));
-  const double b = luminance(back);
-  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
-}
-
 TEST(DiagramScene, HasReadableColours) {
-  constexpr double readable = 4.5;
   const ChordView view;
   EXPECT_GE(contrast(palette::cardTitle, palette::card), readable);
   EXPECT_GE(contrast(palette::accent, palette::card), readable);

@@ -5,9 +5,11 @@
 #include "TodayChordExtension/diagram/icons.h"
 #include "TodayChordExtension/diagram/scene_placement.h"
 #include "TodayChordExtension/widgets/collections_widget_view.h"
+#include "TodayChordExtension/widgets/widget_palette.h"
 #include "TodayChordExtension/widgets/widget_text.h"
 #include "TodayChordExtension/widgets/widget_view.h"
 #include "tests/support/chord_views.h"
+#include "tests/support/contrast.h"
 #include "tests/support/scene_lines.h"
 
 namespace todaychord {
@@ -254,6 +256,33 @@ TEST(WidgetViews, SetLongLinesSmallerAndThenCutThem) {
     EXPECT_LE(boxOf(line).right, 110 + 1e-9) << text;
   }
   EXPECT_EQ(fitLine("C", style, {0, 0}, 110).font.size, 20);
+}
+
+// The ends of a gradient are its darkest and lightest places.
+TEST(WidgetViews, HaveReadableColours) {
+  namespace palette = widgetPalette;
+  std::vector<std::pair<Color, Color>> rows{
+      {palette::title, palette::home},
+      {palette::accent, palette::home},
+      {palette::subtitle, palette::home},
+      {palette::accent, palette::large},
+      {palette::title, palette::chordCell},
+      {palette::heading, palette::toolCard},
+      {palette::subtitle, palette::collectionCaption},
+      {palette::buttonText, palette::button},
+      {palette::heading, testing::over(palette::quietButton, palette::tall[0].color)},
+  };
+  for (const ColorStop& stop : palette::accessory) rows.emplace_back(palette::heading, stop.color);
+  for (const ColorStop& stop : palette::tall) rows.emplace_back(palette::subtitle, stop.color);
+  for (const ColorStop& stop : palette::chordCard) rows.emplace_back(palette::subtitle, stop.color);
+  for (const auto& [text, back] : rows) {
+    EXPECT_GE(testing::contrast(text, back), testing::readable)
+        << describe(text) << " on " << describe(back);
+  }
+  // Icons are larger and need less; they stand in the middle of their gradient.
+  const auto& card = palette::collectionCard;
+  const Color middle = testing::over(card[0].color.withOpacity(0.5), card[1].color);
+  EXPECT_GE(testing::contrast(palette::artwork, middle), 3);
 }
 
 TEST(WidgetViews, DrawTheChordInFull) {
