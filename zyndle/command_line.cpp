@@ -16,6 +16,7 @@
 #include "zyndle/settings_command.h"
 #include "zyndle/today_command.h"
 #include "zyndle/voicings_command.h"
+#include "zyndle/widget_command.h"
 
 namespace zyndle {
 namespace {
@@ -29,6 +30,7 @@ constexpr const char* examples = R"(Examples:
   zyndle chord G --tuning DADGAD   its shapes in another tuning
   zyndle voicings C/E              every way to play it, easiest first
   zyndle connect "C G/B Am F"      shapes that are close to each other
+  zyndle widget chord > today.svg  a widget as a picture
   zyndle settings list             what you have set
   zyndle COMMAND --help            more about a command)";
 
@@ -102,6 +104,7 @@ void runCommandLine(int argc, const char* const* argv) {
   addChordCommand(app, action);
   addVoicingsCommand(app, action);
   addConnectCommand(app, action);
+  addWidgetCommand(app, action);
   addRecentCommand(app, action);
   addCollectionsCommand(app, action);
   addSettingsCommand(app, action);

@@ -1,12 +1,11 @@
 #include "TodayChordExtension/diagram/diagram_scene.h"
 
-#include <cmath>
-
 #include <gtest/gtest.h>
 
 #include "TodayChordExtension/diagram/diagram_layout.h"
 #include "TodayChordExtension/diagram/scene_placement.h"
 #include "tests/support/chord_views.h"
+#include "tests/support/contrast.h"
 #include "tests/support/scene_parts.h"
 
 namespace todaychord {
@@ -16,10 +15,13 @@ using testing::barreF;
 using testing::Box;
 using testing::boxOf;
 using testing::collect;
+using testing::contrast;
 using testing::highDm;
 using testing::itemsOf;
 using testing::manyViews;
 using testing::openC;
+using testing::over;
+using testing::readable;
 
 std::vector<Box> boxesOf(const Scene& scene) {
   std::vector<Box> boxes;

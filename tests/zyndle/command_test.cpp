@@ -123,6 +123,12 @@ TEST_F(Command, RefusesBadArgumentsInOneLine) {
       {{"voicings", "C", "--inner-mutes", "5"}, "--inner-mutes \"5\""},
       {{"connect", "C | H"}, "no chord is named \"H\""},
       {{"connect", " | "}, "names no chord"},
+      {{"widget"}, "KIND is missing"},
+      {{"widget", "Chord"}, "no widget \"Chord\"; there are chord, launcher"},
+      {{"widget", "chord", "--family", "tiny"}, "--family \"tiny\" is not one of small, medium"},
+      {{"widget", "recent", "--family", "small"}, "is not one of extraLargePortrait"},
+      {{"widget", "recent", "--format", "gif"}, "--format \"gif\" is not one of svg, json"},
+      {{"widget", "recent", "-o", ""}, "-o needs the name of a file"},
       {{"settings"}, "a command is missing"},
       {{"settings", "forget"}, "no command \"forget\""},
       {{"settings", "get", "color"}, "no setting \"color\"; there are todayChordCategory"},
@@ -312,6 +318,27 @@ TEST_F(Command, NamesSharedSettingsThatCannotBeOpened) {
     EXPECT_THAT(result.errors, AllOf(StartsWith("zyndle: "), HasSubstr("zyndle/shared.sqlite")));
     EXPECT_EQ(countLines(result.errors), 1U) << result.errors;
   }
+}
+
+TEST_F(Command, DrawsEveryWidget) {
+  const std::pair<const char*, const char*> rows[] = {
+      {"chord", "zyndle://widget/chord?root="},
+      {"ZyndleChordWidget", "zyndle://widget/chord?root="},
+      {"launcher", "zyndle://widget/metronome"},
+      {"recent", "zyndle://widget/search"},
+      {"collections", "zyndle://widget/collection?title="},
+  };
+  for (const auto& [kind, link] : rows) {
+    const ProgramResult svg = run({"widget", kind});
+    EXPECT_EQ(svg.status, 0) << svg.errors;
+    EXPECT_THAT(svg.output, AllOf(StartsWith("<svg "), HasSubstr(link))) << kind;
+    EXPECT_THAT(json({"widget", kind, "--format", "json"}).dump(), HasSubstr(link)) << kind;
+  }
+  const Value right = json({"widget", "recent", "--format", "json"});
+  EXPECT_EQ(right["height"], 715);
+  run({"settings", "set", "left_handed", "true"});
+  EXPECT_NE(json({"widget", "recent", "--format", "json"}), right);
+  EXPECT_EQ(json({"widget", "chord", "--family", "medium", "--format", "json"})["width"], 364);
 }
 
 TEST_F(Command, WritesTheDrawingBesideTheText) {

@@ -1,0 +1,77 @@
+#include "TodayChordExtension/widgets/accessory_layouts.h"
+
+#include <algorithm>
+#include <string>
+
+#include "TodayChordExtension/diagram/scene_shapes.h"
+#include "TodayChordExtension/widgets/widget_chord.h"
+#include "TodayChordExtension/widgets/widget_metrics.h"
+#include "TodayChordExtension/widgets/widget_palette.h"
+#include "TodayChordExtension/widgets/widget_parts.h"
+#include "TodayChordExtension/widgets/widget_text.h"
+
+namespace todaychord {
+namespace {
+
+namespace layout = widgetMetrics::accessory;
+
+constexpr WholeNumber shortTitleLength = 2;  // almost every type by its short name: "Cmaj7"
+constexpr WholeNumber titleLength = 12;
+
+Point middleOf(const Rectangle& frame) {
+  return {frame.x + frame.width / 2, frame.y + frame.height / 2};
+}
+
+struct TitleShape {
+  WholeNumber maxChars;
+  const char* font;
+  double fontSize;
+  double width;
+  double icon;  // in place of a title
+};
+
+SceneItem drawTitle(const DayChord& chord, const Rectangle& frame, const TitleShape& shape) {
+  const std::string title = widgetTitle(chord.chord, shape.maxChars);
+  if (title.empty()) return {drawCentred(noChordIcon, frame, shape.icon, widgetPalette::title)};
+  const TextStyle style{{shape.font, shape.fontSize}, widgetPalette::heading, TextAnchor::middle};
+  TextItem line = fitLine(title, style, middleOf(frame), shape.width);
+  line.baseline.y = middleBaseline(frame.y, frame.height, line.font.size);
+  return {line};
+}
+
+}  // namespace
+
+SceneItems drawCircularBackground(const Rectangle& frame) {
+  const double radius = std::min(frame.width, frame.height) / 2;
+  const Paint paint = downwardGradient(frame, widgetPalette::accessory);
+  return {{PathItem{circle(middleOf(frame), radius), paint}}};
+}
+
+SceneItems drawRectangularBackground(const Rectangle& frame) {
+  return {{drawField(frame, layout::rectangleRadius,
+                     downwardGradient(frame, widgetPalette::accessory))}};
+}
+
+SceneItems drawCircularLayout(const DayChord& chord, const Rectangle& frame) {
+  const double radius = std::min(frame.width, frame.height) / 2 - layout::ringInset;
+  const PathItem ring{circle(middleOf(frame), radius), std::nullopt,
+                      Stroke{widgetPalette::ring, layout::ringStroke}};
+  return {{ring},
+          drawTitle(chord, frame,
+                    {shortTitleLength, boldFont, layout::circleFont, layout::circleTextWidth,
+                     layout::circleIcon})};
+}
+
+SceneItems drawRectangularLayout(const DayChord& chord, const Rectangle& frame) {
+  return {drawTitle(chord, frame,
+                    {titleLength, boldFont, widgetMetrics::footnote, layout::rectangleTextWidth,
+                     layout::rectangleIcon})};
+}
+
+SceneItems drawInlineLayout(const DayChord& chord, const Rectangle& frame) {
+  return {drawTitle(chord, frame,
+                    {shortTitleLength, regularFont, layout::inlineFont, layout::inlineTextWidth,
+                     layout::inlineIcon})};
+}
+
+}  // namespace todaychord

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <optional>
+
+#include "TodayChordExtension/diagram/chord_view.h"
+#include "TodayChordExtension/diagram/scene.h"
+
+namespace todaychord {
+
+/// A chord of the day and its diagram, either of which may be missing.
+struct DayChord {
+  std::optional<Chord> chord;
+  std::optional<ChordView> diagram;
+};
+
+// The chord of the day in the families of the home screen; `frame` is the widget's. Without a
+// diagram the title stands alone, without a title an icon does.
+
+SceneItems drawSmallLayout(const DayChord& chord, const Rectangle& frame);
+SceneItems drawMediumLayout(const DayChord& chord, const Rectangle& frame);
+SceneItems drawLargeLayout(const DayChord& chord, const Rectangle& frame);
+SceneItems drawExtraLargeLayout(const DayChord& chord, const Rectangle& frame);
+
+}  // namespace todaychord

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "TodayChordExtension/diagram/scene.h"
+#include "TodayChordExtension/widgets/widget_entries.h"
+
+namespace todaychord {
+
+/// The picture of a collection.
+struct WidgetCollectionArtwork {
+  std::optional<std::string> imageName;
+  std::optional<std::string> systemImageName;
+  Color accentColor;  ///< of icons
+
+  /// The image; where there is none, or none of this name, the system icon; else a stack of music.
+  std::string name() const;
+};
+
+/// A collection as a card: its picture on a field of its own, title and subtitle on its foot.
+struct WidgetCollectionCard {
+  WidgetCollectionItem collection;
+};
+
+/// Cards in two columns; of an odd number the first is as wide as both.
+struct CollectionGrid {
+  std::vector<WidgetCollectionItem> collections;
+};
+
+SceneItems draw(const WidgetCollectionCard& card, const Rectangle& frame);
+SceneItems draw(const CollectionGrid& grid, const Rectangle& frame);
+
+/// The collections in their only family, extra-large portrait; as many as the entry's capacity,
+/// then the row that leads to all of them.
+Scene drawCollectionsWidget(const CollectionsEntry& entry);
+
+}  // namespace todaychord

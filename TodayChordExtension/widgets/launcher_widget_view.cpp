@@ -1,0 +1,111 @@
+#include "TodayChordExtension/widgets/launcher_widget_view.h"
+
+#include <utility>
+
+#include "TodayChordExtension/widgets/launcher_tools.h"
+#include "TodayChordExtension/widgets/widget_chord.h"
+#include "TodayChordExtension/widgets/widget_links.h"
+#include "TodayChordExtension/widgets/widget_metrics.h"
+#include "TodayChordExtension/widgets/widget_palette.h"
+#include "TodayChordExtension/widgets/widget_parts.h"
+#include "TodayChordExtension/widgets/widget_text.h"
+
+namespace todaychord {
+namespace {
+
+namespace layout = widgetMetrics::launcher;
+namespace tall = widgetMetrics::tall;
+
+constexpr WholeNumber titleLength = 12;
+
+std::optional<std::string> nameOrNothing(std::string_view name) {
+  return name.empty() ? std::nullopt : std::optional(std::string(name));
+}
+
+ToolLauncherCard cardOf(const LauncherTool& tool, const Color& tint) {
+  return {std::string(tool.title), nameOrNothing(tool.image), nameOrNothing(tool.systemImage), tint,
+          namedDestination(tool.destination)};
+}
+
+// Texts of the chord's card, in a column on its left.
+SceneItems drawTexts(const TodayChordLauncherCard& card, const Rectangle& frame) {
+  SceneItems items;
+  const auto add = [&](const std::string& text, const Font& font, const Color& color, double y) {
+    if (text.empty()) return;
+    const Point baseline{frame.x + layout::columnX, frame.y + y};
+    items.push_back({fitLine(text, {font, color}, baseline, layout::columnWidth)});
+  };
+  add(inCapitals(card.category.localizedTitle()), {boldFont, widgetMetrics::footnote},
+      widgetPalette::subtitle, layout::categoryBaseline);
+  add(widgetTitle(card.chord, titleLength), {regularFont, layout::titleFont},
+      widgetPalette::heading, layout::titleBaseline);
+  add(widgetTones(card.chord), {regularFont, widgetMetrics::footnote}, widgetPalette::subtitle,
+      layout::tonesBaseline);
+  append(items, drawLearnMore({frame.x + layout::columnX, frame.y + layout::buttonY}));
+  return items;
+}
+
+// From `y` on: the section's title and, below it, the four tools down to the lower edge.
+SceneItems drawTools(double y) {
+  SceneItems items =
+      draw(WidgetSectionTitle{std::string(launcherToolsSection), "Everything for your practice"},
+           {tall::margin, y}, tall::width);
+  const double top =
+      y + widgetMetrics::sectionTitle::height + widgetMetrics::sectionTitle::gapBelow;
+  const Rectangle grid{tall::margin, top, tall::width, tall::bottom - top};
+  constexpr int rows = static_cast<int>(launcherTools.size()) / tall::columns;
+  for (std::size_t i = 0; i < launcherTools.size(); ++i) {
+    const Rectangle frame = gridCell(grid, tall::columns, rows, tall::gap, static_cast<int>(i));
+    append(items, draw(cardOf(launcherTools.at(i), widgetPalette::toolTints.at(i)), frame));
+  }
+  return items;
+}
+
+}  // namespace
+
+SceneItems draw(const ToolLauncherCard& card, const Rectangle& frame) {
+  SceneItems items = drawCard(frame, widgetPalette::toolCard);
+  const Rectangle field{frame.x + tall::cardPadding, frame.y + tall::cardPadding, layout::toolField,
+                        layout::toolField};
+  items.push_back({drawField(field, layout::toolFieldRadius,
+                             card.tint.withOpacity(widgetPalette::toolFieldOpacity))});
+  const std::string icon = card.image ? *card.image : card.systemImage.value_or("");
+  items.push_back({drawCentred(icon, field, layout::toolIcon, card.tint)});
+  const Point baseline{field.x, frame.y + frame.height - layout::toolTitleFromBottom};
+  items.push_back({fitLine(card.title, {{regularFont, layout::toolFont}, widgetPalette::heading},
+                           baseline, frame.width - 2 * tall::cardPadding)});
+  items.push_back({LinkArea{frame, card.destination, card.title}});
+  return items;
+}
+
+SceneItems draw(const TodayChordLauncherCard& card, const Rectangle& frame,
+                const ViewSettings& settings) {
+  SceneItems items = drawCard(frame, fallingGradient(frame, widgetPalette::chordCard));
+  append(items, drawTexts(card, frame));
+  const double ink = widgetMetrics::diagramInk * layout::diagramScale;
+  const double middleX = frame.x + layout::diagramMiddleX;
+  const double top = frame.y + (frame.height - ink) / 2;
+  if (const auto diagram = widgetDiagram(card.chord, settings)) {
+    items.push_back(drawDiagramAt(*diagram, middleX, top, layout::diagramScale));
+  } else {
+    items.push_back({drawCentred(noChordIcon, {middleX - ink / 2, top, ink, ink}, layout::icon,
+                                 widgetPalette::quietIcon)});
+  }
+  items.push_back({LinkArea{frame, chordLink(card.chord), chordOfTheDayLabel(card.chord)}});
+  return items;
+}
+
+Scene drawLauncherWidget(const LauncherEntry& entry, const ViewSettings& settings) {
+  const auto size = widgetMetrics::sizeOf(WidgetFamily::extraLargePortrait);
+  SceneItems items = draw(ExtraLargeWidgetBackground{});
+  double y = tall::margin;
+  append(items, draw(WidgetSectionTitle{std::string(launcherChordSection), "A new one every day"},
+                     {tall::margin, y}, tall::width));
+  y += widgetMetrics::sectionTitle::height + widgetMetrics::sectionTitle::gapBelow;
+  const Rectangle card{tall::margin, y, tall::width, layout::chordCardHeight};
+  append(items, draw(TodayChordLauncherCard{entry.chord, entry.category}, card, settings));
+  append(items, drawTools(y + layout::chordCardHeight + layout::sectionGap));
+  return {size.width, size.height, "Zyndle Launcher", "", std::move(items)};
+}
+
+}  // namespace todaychord

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "TodayChordExtension/diagram/scene.h"
+#include "TodayChordExtension/widgets/widget_entries.h"
+#include "TodayChordExtension/widgets/widget_view_settings.h"
+
+namespace todaychord {
+
+/// A chord as a card: its title above its diagram, or an icon for one that cannot be shown.
+struct WidgetSmallChordCell {
+  Chord chord;
+};
+
+SceneItems draw(const WidgetSmallChordCell& cell, const Rectangle& frame,
+                const ViewSettings& settings);
+
+/// The recent chords in their only family, extra-large portrait; as many as the entry's capacity.
+Scene drawRecentChordsWidget(const RecentChordsEntry& entry, const ViewSettings& settings);
+
+}  // namespace todaychord

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "TodayChordExtension/diagram/chord_view.h"
+#include "TodayChordExtension/diagram/scene.h"
+#include "TodayChordExtension/widgets/widget_view_settings.h"
+
+namespace todaychord {
+
+// What widgets show and say of a chord, which may be missing or of an unknown type.
+
+/// Longest type name that a screen reader is given in full, in characters.
+inline constexpr tonelake::WholeNumber spokenTitleLength = 18;
+
+/// The chord's title; "" without a chord and for one that cannot be shown.
+std::string widgetTitle(const std::optional<Chord>& chord, tonelake::WholeNumber maxChars);
+
+/// "C · E · G"; "" without a chord and for one that cannot be shown.
+std::string widgetTones(const std::optional<Chord>& chord);
+
+/// "Chord of the Day, C major. Learn More"; without a title "Chord of the Day. Learn More".
+std::string chordOfTheDayLabel(const std::optional<Chord>& chord);
+
+/// The chord's first shape in standard tuning; nothing where there is none.
+std::optional<ChordView> widgetDiagram(const std::optional<Chord>& chord,
+                                       const ViewSettings& settings);
+
+/// The diagram at `scale`, as the group "diagram": the board's middle at `middleX`, its highest
+/// mark at `top`.
+SceneItem drawDiagramAt(const ChordView& view, double middleX, double top, double scale);
+
+}  // namespace todaychord

@@ -1,0 +1,52 @@
+#include "TodayChordExtension/widgets/widget_text.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "TodayChordExtension/diagram/text_width.h"
+#include "TodayChordExtension/widgets/widget_metrics.h"
+#include "Tonelake/foundation/text.h"
+
+namespace todaychord {
+namespace {
+
+constexpr const char* ellipsis = "…";
+
+// The longest beginning of `text` that fits in with an ellipsis. Blanks before the ellipsis go too:
+// "My songs…", not "My songs …".
+std::string cut(const std::string& text, double fontSize, double width) {
+  const double room = width - largestTextWidth(ellipsis, fontSize);
+  std::string kept;
+  double used = 0;
+  for (const std::string_view character : tonelake::splitCharacters(text)) {
+    used += largestTextWidth(character, fontSize);
+    if (used > room) break;
+    kept += character;
+  }
+  while (!kept.empty() && kept.back() == ' ') kept.pop_back();
+  return kept + ellipsis;
+}
+
+}  // namespace
+
+TextItem fitLine(const std::string& text, const TextStyle& style, Point baseline, double width) {
+  const double smallest = style.font.size * widgetMetrics::smallestTextScale;
+  const double size = std::max(smallest, fittingFontSize(text, style.font.size, width));
+  const bool isTooLong = largestTextWidth(text, size) > width * (1 + 1e-9);
+  return {isTooLong ? cut(text, size, width) : text,
+          {style.font.name, size},
+          style.anchor,
+          baseline,
+          style.color};
+}
+
+double middleBaseline(double y, double height, double fontSize) {
+  return y + (height + widgetMetrics::capitalHeight * fontSize) / 2;
+}
+
+std::string inCapitals(std::string text) {
+  for (char& letter : text) letter = tonelake::uppercase(letter);
+  return text;
+}
+
+}  // namespace todaychord

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+#include "TodayChordExtension/diagram/scene.h"
+
+namespace todaychord {
+
+inline constexpr const char* regularFont = "Space Grotesk Medium";
+inline constexpr const char* boldFont = "SpaceGrotesk-SemiBold";
+
+/// Where and how a line of text stands.
+struct TextStyle {
+  Font font;
+  Color color;
+  TextAnchor anchor = TextAnchor::start;
+};
+
+/// `text` on one line that is no wider than `width` points: set down to three quarters of its size
+/// where it is too long, and cut with "…" where that does not help.
+TextItem fitLine(const std::string& text, const TextStyle& style, Point baseline, double width);
+
+/// The baseline at which capitals of a font size stand in the middle of [y, y + height].
+double middleBaseline(double y, double height, double fontSize);
+
+/// "LEARN MORE" for "Learn More"; letters outside ASCII stay as they are.
+std::string inCapitals(std::string text);
+
+}  // namespace todaychord

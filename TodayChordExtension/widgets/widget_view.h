@@ -1,0 +1,13 @@
+#pragma once
+
+#include "TodayChordExtension/diagram/scene.h"
+#include "TodayChordExtension/widgets/widget_family.h"
+#include "TodayChordExtension/widgets/widget_provider.h"
+#include "TodayChordExtension/widgets/widget_view_settings.h"
+
+namespace todaychord {
+
+/// The entry of any widget as `family` shows it. Widgets that have one family are drawn in it.
+Scene drawWidget(const WidgetEntry& entry, WidgetFamily family, const ViewSettings& settings);
+
+}  // namespace todaychord
