@@ -13,13 +13,14 @@
 namespace desktop {
 namespace {
 
-// Nice values run from -20 to 19; 10 is what the command `nice` adds.
-constexpr int backgroundNiceness = 10;
+// Nice values run from -20 to 19, where Linux cuts off; 10 is what the command `nice` adds.
+constexpr int addedNiceness = 10;
 
-// On Linux a thread has a nice value of its own. Where the system refuses, the thread stays as it
-// is.
+// On Linux a thread has a nice value of its own. It is added to, for a fixed value would hurry a
+// process that was started with more. Where the system refuses, the thread stays as it is.
 void lowerThreadPriority() {
-  ::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), backgroundNiceness);
+  const auto thread = static_cast<id_t>(::gettid());
+  ::setpriority(PRIO_PROCESS, thread, ::getpriority(PRIO_PROCESS, thread) + addedNiceness);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "Desktop/desktop_platform.h"
 
+#include <algorithm>
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -41,7 +42,7 @@ TEST(DesktopPlatform, LowersThePriorityOfOneThread) {
     platform.lowerThreadPriority();
     lowered = ::getpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()));
   }).join();
-  EXPECT_GT(lowered, before);
+  EXPECT_GT(lowered, std::min(before, 18));  // 19 is the end of the scale
   EXPECT_EQ(::getpriority(PRIO_PROCESS, 0), before);
 }
 
