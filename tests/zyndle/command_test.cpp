@@ -24,7 +24,6 @@ using testing::AllOf;
 using testing::Each;
 using testing::EndsWith;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 using tonelake::json::Value;
