@@ -80,6 +80,7 @@ TEST(WidgetLinks, OfOthersAreReadWithCare) {
       {host + "collection?title=%", std::nullopt},
       {host + "collection?title=%4", std::nullopt},
       {host + "collection?title=%G1", std::nullopt},
+      {host + "collection?title=%4g", std::nullopt},
       {host + "collection?title=%+1", std::nullopt},
       {host + "collection?title=%C3", std::nullopt},
       {host + "tuner?", std::nullopt},
