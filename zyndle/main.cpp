@@ -3,6 +3,8 @@
 #include "zyndle/command_line.h"
 #include "zyndle/connect_command.h"
 #include "zyndle/find_command.h"
+#include "zyndle/progression_command.h"
+#include "zyndle/progressions_command.h"
 #include "zyndle/recent_command.h"
 #include "zyndle/rpc_command.h"
 #include "zyndle/settings_command.h"
@@ -19,6 +21,8 @@ void addCommands(CLI::App& app, zyndle::Action& action, zyndle::Arguments /*argu
   zyndle::addVoicingsCommand(app, action);
   zyndle::addConnectCommand(app, action);
   zyndle::addFindCommand(app, action);
+  zyndle::addProgressionCommand(app, action);
+  zyndle::addProgressionsCommand(app, action);
   zyndle::addWidgetCommand(app, action);
   zyndle::addRecentCommand(app, action);
   zyndle::addCollectionsCommand(app, action);
