@@ -12,6 +12,7 @@
 #include "Tonelake/theory/note.h"
 #include "zyndle/command_error.h"
 #include "zyndle/nearest_names.h"
+#include "zyndle/note_name.h"
 
 // "a MINOR 7th/c", which no dictionary holds, becomes "Am7/C": the root is a capital, the quality
 // without blanks is "MINOR7th", whose word stands for "m" and whose "th" for nothing, and the bass
@@ -107,16 +108,11 @@ std::string withSigns(std::string_view name) {
   return tonelake::replaceAll(tonelake::replaceAll(name, "#", "♯"), "b", "♭");
 }
 
-// The note that a whole text names, in any writing of its sign.
-std::optional<Note> readNote(std::string_view text) {
-  return Note::fromRawValue(withSigns(withCapital(std::string(text))));
-}
-
 // The parts before and after the last "/", if a note follows it: "C6/9" has no bass.
 std::optional<std::pair<std::string, Note>> splitBass(std::string_view name) {
   const std::size_t slash = name.rfind('/');
   if (slash == std::string_view::npos) return std::nullopt;
-  const std::optional<Note> bass = readNote(withoutCharacters(name.substr(slash + 1), " "));
+  const std::optional<Note> bass = parseNoteName(withoutCharacters(name.substr(slash + 1), " "));
   if (!bass) return std::nullopt;
   return std::pair(std::string(name.substr(0, slash)), *bass);
 }

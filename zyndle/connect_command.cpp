@@ -8,10 +8,11 @@
 
 #include "Tonelake/chords/chord_json.h"
 #include "Tonelake/chords/chord_naming.h"
-#include "Tonelake/fingering/voicings.h"
+#include "Tonelake/fingering/voicing.h"
 #include "Tonelake/foundation/text.h"
 #include "zyndle/chord_name.h"
 #include "zyndle/command_error.h"
+#include "zyndle/connected_shapes.h"
 #include "zyndle/drawing.h"
 #include "zyndle/host.h"
 #include "zyndle/instrument_options.h"
@@ -68,21 +69,6 @@ std::vector<Chord> readChords(const ConnectOptions& options) {
   return chords;
 }
 
-std::vector<Voicing> connect(const std::vector<Chord>& chords, const Instrument& instrument) {
-  tonelake::Voicings::VoicingOptions options;
-  options.capo = instrument.capo;
-  std::vector<Voicing> row =
-      tonelake::Voicings::connectVoicings(chords, instrument.tuning, options);
-  if (!row.empty()) return row;
-  for (const Chord& chord : chords) {
-    if (tonelake::Voicings::findVoicings(chord, instrument.tuning, options).empty()) {
-      fail("there is no way to play " + tonelake::Chords::getTitleForChord(chord) +
-           " in this tuning");
-    }
-  }
-  fail("there is no way to play these chords");
-}
-
 std::string jsonOf(const std::vector<Chord>& chords, const std::vector<Voicing>& row,
                    const Instrument& instrument) {
   tonelake::json::Value object;
@@ -100,11 +86,9 @@ std::string jsonOf(const std::vector<Chord>& chords, const std::vector<Voicing>&
 
 std::string textOf(const std::vector<Chord>& chords, const std::vector<Voicing>& row,
                    const Instrument& instrument, const DrawingStyle& style) {
-  std::vector<NamedShape> shapes;
-  for (std::size_t i = 0; i < row.size(); ++i) shapes.push_back({chords[i], row[i].position});
   const std::string rows = instrumentRows(instrument);
   return rows + (rows.empty() ? "" : "\n") +
-         drawNamedInTerminal(shapes, soundingStrings(instrument), style);
+         drawNamedInTerminal(nameShapes(chords, row), soundingStrings(instrument), style);
 }
 
 void showConnected(const ConnectOptions& options) {
@@ -112,7 +96,7 @@ void showConnected(const ConnectOptions& options) {
   const Instrument instrument = readInstrument(options.instrument);
   installHost(options.output.isForPrograms());
   const std::vector<Chord> chords = readChords(options);
-  const std::vector<Voicing> row = connect(chords, instrument);
+  const std::vector<Voicing> row = connectShapes(chords, instrument);
   writeText(options.output, options.output.json
                                 ? jsonOf(chords, row, instrument)
                                 : textOf(chords, row, instrument, drawingStyle(options.output)));

@@ -1,8 +1,11 @@
 #include "zyndle/drawing.h"
 
+#include <algorithm>
+
 #include "Desktop/svg_renderer.h"
 #include "Desktop/terminal_diagram.h"
 #include "TodayChordExtension/diagram/diagram_scene.h"
+#include "TodayChordExtension/diagram/scene_placement.h"
 #include "TodayChordExtension/widgets/shared_settings.h"
 #include "Tonelake/chords/chord_naming.h"
 #include "Tonelake/platform/platform.h"
@@ -74,6 +77,30 @@ void writeSvg(const OutputOptions& options, const Chord& chord,
       todaychord::drawDiagramCard(viewOf(chord, positions.front(), tuning, style),
                                   tonelake::Chords::getTitleForChord(chord), cardWidth);
   writeFile(*options.svgFile, desktop::renderSvg(scene));
+}
+
+void writeSvgOfRow(const OutputOptions& options, const std::string& title,
+                   const std::vector<NamedShape>& shapes, const tonelake::TuningNames& tuning,
+                   const DrawingStyle& style) {
+  if (!options.svgFile) return;
+  constexpr std::size_t cardsInRow = 4;
+  constexpr double gap = 16;  // points between cards
+  todaychord::Scene picture;
+  picture.title = title;
+  for (std::size_t i = 0; i < shapes.size(); ++i) {
+    const NamedShape& shape = shapes[i];
+    const std::string name = tonelake::Chords::getTitleForChord(shape.chord);
+    const todaychord::Scene card = todaychord::drawDiagramCard(
+        viewOf(shape.chord, shape.position, tuning, style), name, cardWidth);
+    const todaychord::Point corner{static_cast<double>(i % cardsInRow) * (card.width + gap),
+                                   static_cast<double>(i / cardsInRow) * (card.height + gap)};
+    picture.items.push_back({todaychord::SceneGroup{"card-" + std::to_string(i + 1),
+                                                    todaychord::placed(card.items, {corner})}});
+    picture.width = std::max(picture.width, corner.x + card.width);
+    picture.height = corner.y + card.height;
+    picture.description += (i == 0 ? "" : " ") + name + ": " + card.description;
+  }
+  writeFile(*options.svgFile, desktop::renderSvg(picture));
 }
 
 }  // namespace zyndle

@@ -45,4 +45,9 @@ void writeSvg(const OutputOptions& options, const tonelake::Chord& chord,
               const std::vector<tonelake::ChordPosition>& positions,
               const tonelake::TuningNames& tuning, const DrawingStyle& style);
 
+/// The same with a card for each of the shapes, four a row, in one picture called `title`.
+void writeSvgOfRow(const OutputOptions& options, const std::string& title,
+                   const std::vector<NamedShape>& shapes, const tonelake::TuningNames& tuning,
+                   const DrawingStyle& style);
+
 }  // namespace zyndle

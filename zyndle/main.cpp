@@ -2,6 +2,9 @@
 #include "zyndle/collections_command.h"
 #include "zyndle/command_line.h"
 #include "zyndle/connect_command.h"
+#include "zyndle/find_command.h"
+#include "zyndle/progression_command.h"
+#include "zyndle/progressions_command.h"
 #include "zyndle/recent_command.h"
 #include "zyndle/rpc_command.h"
 #include "zyndle/settings_command.h"
@@ -17,6 +20,9 @@ void addCommands(CLI::App& app, zyndle::Action& action, zyndle::Arguments /*argu
   zyndle::addChordCommand(app, action);
   zyndle::addVoicingsCommand(app, action);
   zyndle::addConnectCommand(app, action);
+  zyndle::addFindCommand(app, action);
+  zyndle::addProgressionCommand(app, action);
+  zyndle::addProgressionsCommand(app, action);
   zyndle::addWidgetCommand(app, action);
   zyndle::addRecentCommand(app, action);
   zyndle::addCollectionsCommand(app, action);

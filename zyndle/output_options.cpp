@@ -8,14 +8,23 @@
 
 namespace zyndle {
 
+namespace {
+
+void addFlag(CLI::App& command, const char* name, bool& flag, const char* meaning) {
+  command.add_flag(name, flag, meaning)->disable_flag_override();
+}
+
+}  // namespace
+
+void addFormatOptions(CLI::App& command, OutputOptions& options) {
+  addFlag(command, "--ascii", options.ascii, "Write and draw with ASCII characters only");
+  addFlag(command, "--json", options.json, "Write one JSON object, for scripts");
+}
+
 void addTextOptions(CLI::App& command, OutputOptions& options) {
-  const auto addFlag = [&command](const char* name, bool& flag, const char* meaning) {
-    command.add_flag(name, flag, meaning)->disable_flag_override();
-  };
-  addFlag("--left-handed", options.leftHanded, "Mirror the diagrams");
-  addFlag("--right-handed", options.rightHanded, "Do not, even if left_handed is set");
-  addFlag("--ascii", options.ascii, "Write and draw with ASCII characters only");
-  addFlag("--json", options.json, "Write one JSON object, for scripts");
+  addFlag(command, "--left-handed", options.leftHanded, "Mirror the diagrams");
+  addFlag(command, "--right-handed", options.rightHanded, "Do not, even if left_handed is set");
+  addFormatOptions(command, options);
 }
 
 void addOutputOptions(CLI::App& command, OutputOptions& options) {

@@ -22,8 +22,12 @@ struct OutputOptions {
   bool isForPrograms() const { return json || svgFile == "-"; }
 };
 
-/// Adds --left-handed, --right-handed, --ascii and --json to a subcommand. `options` has to live as
-/// long as the subcommand.
+// `options` has to live as long as the subcommand.
+
+/// Adds --ascii and --json to a subcommand.
+void addFormatOptions(CLI::App& command, OutputOptions& options);
+
+/// The same, --left-handed and --right-handed.
 void addTextOptions(CLI::App& command, OutputOptions& options);
 
 /// The same and --svg.

@@ -30,6 +30,12 @@ std::string fill(std::string start, const std::vector<std::string>& words) {
   return text + line + '\n';
 }
 
+std::vector<std::string> wordsOf(std::string_view text) {
+  std::vector<std::string> words;
+  for (const std::string_view word : tonelake::split(text, ' ')) words.emplace_back(word);
+  return words;
+}
+
 }  // namespace
 
 std::string labelledRow(std::string_view label, const std::vector<std::string>& items) {
@@ -41,10 +47,31 @@ std::string labelledRow(std::string_view label, const std::vector<std::string>& 
   return fill(std::move(start), words);
 }
 
+std::string alignedRows(const std::vector<std::vector<std::string>>& rows) {
+  std::vector<std::size_t> widths;
+  for (const auto& row : rows) {
+    widths.resize(std::max(widths.size(), row.size()));
+    for (std::size_t i = 0; i < row.size(); ++i) {
+      widths[i] = std::max(widths[i], tonelake::countCharacters(row[i]));
+    }
+  }
+  std::string text;
+  for (const auto& row : rows) {
+    for (std::size_t i = 0; i < row.size(); ++i) {
+      text += "  " + row[i];
+      if (i + 1 < row.size()) text.append(widths[i] - tonelake::countCharacters(row[i]), ' ');
+    }
+    text += '\n';
+  }
+  return text;
+}
+
+std::string paragraph(std::string_view text, std::size_t indent) {
+  return fill(std::string(indent, ' '), wordsOf(text));
+}
+
 std::string bulletedSentence(std::string_view sentence) {
-  std::vector<std::string> words;
-  for (const std::string_view word : tonelake::split(sentence, ' ')) words.emplace_back(word);
-  return fill("  - ", words);
+  return fill("  - ", wordsOf(sentence));
 }
 
 }  // namespace zyndle

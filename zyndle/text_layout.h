@@ -14,6 +14,13 @@ inline constexpr std::size_t pageWidth = 80;
 ///   "  Intervals  Root, Minor Third, Perfect Fifth\n"
 std::string labelledRow(std::string_view label, const std::vector<std::string>& items);
 
+/// Rows of cells in columns, each as wide as its widest cell, two blanks before every column:
+///   "  C6             C, E, G, A  Root position\n"
+std::string alignedRows(const std::vector<std::vector<std::string>>& rows);
+
+/// A text on lines of the page, each after `indent` blanks.
+std::string paragraph(std::string_view text, std::size_t indent = 0);
+
 /// "  - " and the sentence, further lines under its beginning.
 std::string bulletedSentence(std::string_view sentence);
 

@@ -1,0 +1,204 @@
+#include "zyndle/find_command.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "Tonelake/chords/chord_json.h"
+#include "Tonelake/chords/chord_naming.h"
+#include "Tonelake/chords/inversion.h"
+#include "Tonelake/foundation/text.h"
+#include "Tonelake/theory/spelling_tables.h"
+#include "zyndle/command_error.h"
+#include "zyndle/drawing.h"
+#include "zyndle/found_chords.h"
+#include "zyndle/fret_list.h"
+#include "zyndle/host.h"
+#include "zyndle/instrument_options.h"
+#include "zyndle/note_name.h"
+#include "zyndle/number_option.h"
+#include "zyndle/output_options.h"
+#include "zyndle/text_layout.h"
+
+namespace zyndle {
+namespace {
+
+using tonelake::Note;
+using tonelake::WholeNumber;
+
+constexpr const char* description = "Name the chord that some notes or a shape are";
+
+constexpr const char* introduction =
+    R"(The first note is the bass. Where no chord has exactly these notes, the nearest
+are told, with what they lack or have besides: people often leave out a note.
+
+A shape is a fret for each string, lowest string first, x for a muted one.
+
+)";
+
+constexpr const char* examples = R"(
+Examples:
+  zyndle find "E, G, C"
+  zyndle find C Eb Gb A
+  zyndle find "C E Bb" --limit 20
+  zyndle find --frets x32010
+  zyndle find --frets "8 10 10 9 8 8"
+  zyndle find --frets 000232 --tuning DADGAD)";
+
+constexpr WholeNumber defaultLimit = 8;
+
+struct FindOptions {
+  std::vector<std::string> notes;
+  std::optional<std::string> frets;
+  InstrumentOptions instrument;
+  std::optional<std::string> limit;
+  OutputOptions output;
+};
+
+struct Answer {
+  std::vector<std::string> names;  // of the notes that sound, the bass first
+  std::vector<FoundChord> exact;
+  std::vector<FoundChord> near;  // only where none is exact
+};
+
+std::vector<Note> notesOnStrings(const tonelake::Frets& frets, const Instrument& instrument) {
+  const tonelake::TuningNames open = soundingStrings(instrument);
+  std::vector<Note> notes;
+  for (std::size_t string = 0; string < frets.size(); ++string) {
+    if (frets[string] == tonelake::mutedString) continue;
+    const int pitch = tonelake::noteIndexByName().at(open[string]) + frets[string];
+    const auto place = static_cast<std::size_t>(pitch % 12);
+    notes.push_back(*Note::fromRawValue(tonelake::notesArrayRegular[place]));
+  }
+  return notes;
+}
+
+// A note of a shape has no spelling of its own: the chord lends it the one of its tone.
+std::string spelledBy(const FoundChord& found, Note note) {
+  for (const std::string& tone : found.tones) {
+    const std::optional<Note> spelled = Note::fromRawValue(tone);
+    if (spelled && spelled->pitchClass() == note.pitchClass()) return tone;
+  }
+  return std::string(note.rawValue());
+}
+
+Answer findAnswer(const std::vector<Note>& sounding, bool areSpelled) {
+  const SoughtNotes sought{eachPitchOnce(sounding), areSpelled};
+  if (sought.notes.size() < 2) {
+    refuse(std::string(areSpelled ? "NOTES has" : "--frets sounds") +
+           " fewer than two different notes");
+  }
+  Answer answer;
+  answer.exact = findExactly(sought);
+  if (answer.exact.empty()) answer.near = findNearly(sought);
+  const std::vector<FoundChord>& found = answer.exact.empty() ? answer.near : answer.exact;
+  for (const Note note : sounding) {
+    answer.names.push_back(areSpelled || found.empty() ? std::string(note.rawValue())
+                                                       : spelledBy(found.front(), note));
+  }
+  return answer;
+}
+
+tonelake::json::Value encode(const std::vector<FoundChord>& answers) {
+  tonelake::json::Value list = tonelake::json::Value::array();
+  for (const FoundChord& found : answers) {
+    tonelake::json::Value& entry = list.emplace_back();
+    entry["chord"] = tonelake::encodeChord(found.chord);
+    entry["title"] = tonelake::Chords::getTitleForChord(found.chord);
+    entry["notes"] = found.tones;
+    entry["missing"] = found.missing;
+    entry["extra"] = found.extra;
+  }
+  return list;
+}
+
+std::string jsonOf(const Answer& answer) {
+  tonelake::json::Value object;
+  object["notes"] = answer.names;
+  object["exact"] = encode(answer.exact);
+  object["near"] = encode(answer.near);
+  return tonelake::json::write(object) + '\n';
+}
+
+// "G", "G and B♭", "G, B♭ and D".
+std::string enumerate(std::vector<std::string> names) {
+  if (names.size() < 2) return tonelake::join(names, "");
+  const std::string last = names.back();
+  names.pop_back();
+  return tonelake::join(names, ", ") + " and " + last;
+}
+
+std::string sentenceOf(const FoundChord& found) {
+  std::string sentence = tonelake::Chords::getTitleForChord(found.chord);
+  if (!found.missing.empty()) sentence += " without " + enumerate(found.missing);
+  if (!found.extra.empty()) sentence += " plus " + enumerate(found.extra);
+  return sentence;
+}
+
+std::string textOf(const Answer& answer) {
+  if (answer.exact.empty()) {
+    std::string text = "No chord has exactly these notes";
+    if (answer.near.empty()) return text + ", and none comes near.\n";
+    text += "; the nearest:\n";
+    for (const FoundChord& found : answer.near) text += bulletedSentence(sentenceOf(found));
+    return text;
+  }
+  std::vector<std::vector<std::string>> rows;
+  for (const FoundChord& found : answer.exact) {
+    const auto inversion = static_cast<tonelake::Inversion::Case>(found.chord.variant);
+    rows.push_back({tonelake::Chords::getTitleForChord(found.chord),
+                    tonelake::join(found.tones, ", "),
+                    tonelake::Inversion(inversion).localizedName()});
+  }
+  return alignedRows(rows);
+}
+
+std::string headingOf(const FindOptions& options, const Answer& answer,
+                      const Instrument& instrument) {
+  const DrawingStyle style = drawingStyle(options.output);
+  const std::string names = tonelake::join(answer.names, ", ");
+  if (!options.frets) return emphasized(names, style) + "\n\n";
+  return emphasized(*options.frets, style) + '\n' + labelledRow("Notes", answer.names) +
+         instrumentRows(instrument) + '\n';
+}
+
+void showFound(const FindOptions& options) {
+  const WholeNumber limit = readNumber("--limit", options.limit, defaultLimit, 1);
+  if (options.frets.has_value() != options.notes.empty()) {
+    refuse(options.frets ? "NOTES and --frets cannot both be given"
+                         : "NOTES or --frets is missing");
+  }
+  const bool hasInstrument = options.instrument.tuning || options.instrument.capo;
+  if (hasInstrument && !options.frets) refuse("--tuning and --capo are for shapes, with --frets");
+  const Instrument instrument = readInstrument(options.instrument);
+  installHost(options.output.isForPrograms());
+  Answer answer = options.frets
+                      ? findAnswer(notesOnStrings(readFrets(*options.frets), instrument), false)
+                      : findAnswer(readNoteNames(options.notes), true);
+  answer.near.resize(std::min(answer.near.size(), static_cast<std::size_t>(limit)));
+  writeText(options.output, options.output.json
+                                ? jsonOf(answer)
+                                : headingOf(options, answer, instrument) + textOf(answer));
+}
+
+}  // namespace
+
+void addFindCommand(CLI::App& app, Action& action) {
+  const auto options = std::make_shared<FindOptions>();
+  CLI::App& command = *app.add_subcommand("find", description);
+  command.footer(std::string(introduction) + instrumentHelp + examples);
+  command.add_option("NOTES", options->notes, "The names of the notes, the bass first")
+      ->type_name("");
+  command.add_option("--frets", options->frets, "A shape in place of notes")->type_name("FRETS");
+  addInstrumentOptions(command, options->instrument);
+  command.add_option("--limit", options->limit, "Nearest chords to show, at most (8)")
+      ->type_name("N");
+  addFormatOptions(command, options->output);
+  command.callback([options, &action] { action = [options] { showFound(*options); }; });
+}
+
+}  // namespace zyndle

@@ -1,0 +1,158 @@
+#include "zyndle/progression_command.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "Tonelake/chords/chord_json.h"
+#include "Tonelake/content/chord_progression_json.h"
+#include "Tonelake/content/chord_progressions.h"
+#include "Tonelake/foundation/text.h"
+#include "zyndle/command_error.h"
+#include "zyndle/connected_shapes.h"
+#include "zyndle/drawing.h"
+#include "zyndle/host.h"
+#include "zyndle/instrument_options.h"
+#include "zyndle/key_name.h"
+#include "zyndle/output_options.h"
+#include "zyndle/progression_text.h"
+#include "zyndle/text_layout.h"
+#include "zyndle/voicing_record.h"
+
+namespace zyndle {
+namespace {
+
+using tonelake::Chord;
+using tonelake::ChordProgression;
+using tonelake::Voicings::Voicing;
+namespace ChordProgressions = tonelake::ChordProgressions;
+
+constexpr const char* description = "Show the chords of a progression in a key";
+
+constexpr const char* introduction =
+    R"(A numeral is a chord on that step of the key, in capitals major, in small
+letters minor; b and # before it lower and raise it. A key is a note, with
+major or minor: without either it is minor when the progression has an i.
+Known progressions, see zyndle progressions, are described in words.
+
+)";
+
+constexpr const char* examples = R"(
+Examples:
+  zyndle progression "I-V-vi-IV" --key G
+  zyndle progression I bVII IV I --key D
+  zyndle progression i-VI-III-VII --key "F# minor"
+  zyndle progression ii-V-I --key Bb --svg two-five-one.svg)";
+
+struct ProgressionOptions {
+  std::vector<std::string> numerals;
+  std::optional<std::string> key;
+  InstrumentOptions instrument;
+  OutputOptions output;
+};
+
+struct ShownProgression {
+  Chord key;
+  ChordProgression progression;  // with no styles and no description where it is not known
+  std::vector<Chord> chords;
+  std::vector<Voicing> row;
+  Instrument instrument;
+};
+
+ChordProgression lookUp(const std::string& progression, const Chord& key) {
+  for (ChordProgression& known :
+       ChordProgressions::getChordProgressionsDataForChordType(key.chordType)) {
+    if (known.progression == progression) return known;
+  }
+  return {progression, "", {}};
+}
+
+// The home chord of a key that nobody named.
+std::string usualKey(const std::string& mode) {
+  return mode == "minor" ? "A" : "C";
+}
+
+ShownProgression makeShown(const ProgressionOptions& options, const Instrument& instrument) {
+  const std::string text = readProgression(options.numerals);
+  const std::string mode = modeOf(text);
+  const Chord key = readKey(options.key.value_or(usualKey(mode)), mode);
+  const ChordProgression progression = lookUp(text, key);
+  const std::vector<Chord> chords = ChordProgressions::getChordsForChordProgression(key, text);
+  if (chords.size() != tonelake::split(text, '-').size()) {
+    fail("one of the chords " + text + " cannot be written in " + nameOfKey(key));
+  }
+  return {key, progression, chords, connectShapes(chords, instrument), instrument};
+}
+
+std::string headingOf(const ShownProgression& shown) {
+  return shown.progression.progression + " in " + nameOfKey(shown.key);
+}
+
+std::string jsonOf(const ShownProgression& shown) {
+  tonelake::json::Value object;
+  object["key"] = tonelake::encodeChord(shown.key);
+  ChordProgression described = shown.progression;
+  described.description = ChordProgressions::getDescription(described, shown.key);
+  object.update(tonelake::encodeChordProgression(described));
+  object["tuning"] = shown.instrument.tuning;
+  object["capo"] = shown.instrument.capo;
+  object["chords"] = tonelake::json::Value::array();
+  for (std::size_t i = 0; i < shown.chords.size(); ++i) {
+    tonelake::json::Value& entry = object["chords"].emplace_back();
+    entry["chord"] = tonelake::encodeChord(shown.chords[i]);
+    entry["title"] = nameOfKey(shown.chords[i]);
+    entry["voicing"] = encodeVoicing(shown.row[i]);
+  }
+  return tonelake::json::write(object) + '\n';
+}
+
+std::string textOf(const ShownProgression& shown, const DrawingStyle& style) {
+  const ChordProgression& progression = shown.progression;
+  std::string text = emphasized(headingOf(shown), style) + '\n';
+  text += labelledRow("Chords", ChordProgressions::getChordTitles(progression, shown.key));
+  std::vector<std::string> styles;
+  for (const tonelake::MusicStyles known : progression.styles)
+    styles.emplace_back(known.rawValue());
+  if (!styles.empty()) text += labelledRow("Styles", styles);
+  text += instrumentRows(shown.instrument) + '\n';
+  if (!progression.description.empty()) {
+    text += paragraph(ChordProgressions::getDescription(progression, shown.key)) + '\n';
+  }
+  return text + drawNamedInTerminal(nameShapes(shown.chords, shown.row),
+                                    soundingStrings(shown.instrument), style);
+}
+
+void showProgression(const ProgressionOptions& options) {
+  checkOutputOptions(options.output);
+  const Instrument instrument = readInstrument(options.instrument);
+  installHost(options.output.isForPrograms());
+  const ShownProgression shown = makeShown(options, instrument);
+  const DrawingStyle style = drawingStyle(options.output);
+  writeSvgOfRow(options.output, headingOf(shown), nameShapes(shown.chords, shown.row),
+                soundingStrings(instrument), style);
+  if (options.output.svgFile == "-") return;
+  writeText(options.output, options.output.json ? jsonOf(shown) : textOf(shown, style));
+}
+
+}  // namespace
+
+void addProgressionCommand(CLI::App& app, Action& action) {
+  const auto options = std::make_shared<ProgressionOptions>();
+  CLI::App& command = *app.add_subcommand("progression", description);
+  command.footer(std::string(introduction) + instrumentHelp + examples);
+  command.add_option("NUMERALS", options->numerals, "The chords as Roman numerals, in their order")
+      ->required()
+      ->type_name("");
+  command.add_option("--key", options->key, "The key (C, or A minor)")->type_name("KEY");
+  addInstrumentOptions(command, options->instrument);
+  addTextOptions(command, options->output);
+  command
+      .add_option("--svg", options->output.svgFile, "Draw the shapes too; - for standard output")
+      ->type_name("FILE");
+  command.callback([options, &action] { action = [options] { showProgression(*options); }; });
+}
+
+}  // namespace zyndle

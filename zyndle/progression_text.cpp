@@ -1,0 +1,61 @@
+#include "zyndle/progression_text.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "Tonelake/foundation/text.h"
+#include "zyndle/command_error.h"
+
+namespace zyndle {
+namespace {
+
+using tonelake::replaceAll;
+
+bool isNumeral(std::string_view word) {
+  constexpr std::array<std::string_view, 14> numerals{"I", "II", "III", "IV", "V", "VI", "VII",
+                                                      "i", "ii", "iii", "iv", "v", "vi", "vii"};
+  return std::find(numerals.begin(), numerals.end(), word) != numerals.end();
+}
+
+// "bVII" as "♭VII"; no numeral holds a "b".
+std::string withSigns(std::string_view word) {
+  return replaceAll(replaceAll(word, "b", "♭"), "#", "♯");
+}
+
+std::string_view withoutSigns(std::string_view word) {
+  while (word.starts_with("♭") || word.starts_with("♯")) {
+    word.remove_prefix(std::string_view("♭").size());
+  }
+  return word;
+}
+
+}  // namespace
+
+std::string readProgression(const std::vector<std::string>& words) {
+  constexpr std::string_view separators = " -,|\t\r\n";
+  // Dashes of typeset text part numerals as hyphens do.
+  const std::string text = replaceAll(replaceAll(tonelake::join(words, " "), "–", "-"), "—", "-");
+  std::vector<std::string> numerals;
+  std::size_t begin = text.find_first_not_of(separators);
+  while (begin != std::string::npos) {
+    const std::size_t end = std::min(text.find_first_of(separators, begin), text.size());
+    const std::string typed = text.substr(begin, end - begin);
+    numerals.push_back(withSigns(typed));
+    if (!isNumeral(withoutSigns(numerals.back()))) {
+      refuse(tonelake::quoted(typed) +
+             " is not a plain triad: I to VII, small letters for minor, b or # before it");
+    }
+    begin = text.find_first_not_of(separators, end);
+  }
+  if (numerals.empty()) refuse("NUMERALS names no chord");
+  return tonelake::join(numerals, "-");
+}
+
+std::string modeOf(const std::string& progression) {
+  const auto numerals = tonelake::split(progression, '-');
+  const bool isMinor = std::find(numerals.begin(), numerals.end(), "i") != numerals.end();
+  return isMinor ? "minor" : "major";
+}
+
+}  // namespace zyndle
