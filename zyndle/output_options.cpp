@@ -5,33 +5,38 @@
 #include "Desktop/ascii_text.h"
 #include "zyndle/command_error.h"
 #include "zyndle/output.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 
 void addTextOptions(CLI::App& command, OutputOptions& options) {
   const auto addFlag = [&command](const char* name, bool& flag, const char* meaning) {
-    command.add_flag(name, flag, meaning)->disable_flag_override();
+    command.add_flag(name, flag, translated(meaning))->disable_flag_override();
   };
-  addFlag("--left-handed", options.leftHanded, "Mirror the diagrams");
-  addFlag("--right-handed", options.rightHanded, "Do not, even if left_handed is set");
-  addFlag("--ascii", options.ascii, "Write and draw with ASCII characters only");
-  addFlag("--json", options.json, "Write one JSON object, for scripts");
+  addFlag("--left-handed", options.leftHanded, message("Mirror the diagrams"));
+  addFlag("--right-handed", options.rightHanded, message("Do not, even if left_handed is set"));
+  addFlag("--ascii", options.ascii, message("Write and draw with ASCII characters only"));
+  addFlag("--json", options.json, message("Write one JSON object, for scripts"));
 }
 
 void addOutputOptions(CLI::App& command, OutputOptions& options) {
   addTextOptions(command, options);
-  command.add_option("--svg", options.svgFile, "Draw the first shape too; - for standard output")
+  command
+      .add_option("--svg", options.svgFile,
+                  translated("Draw the first shape too; - for standard output"))
       ->type_name("FILE");
 }
 
 void checkOutputOptions(const OutputOptions& options) {
   if (options.leftHanded && options.rightHanded) {
-    refuse("--left-handed and --right-handed contradict each other");
+    refuse(translated("{0} and {1} contradict each other", "--left-handed", "--right-handed"));
   }
   if (!options.svgFile) return;
-  if (options.svgFile->empty()) refuse("--svg needs the name of a file, or - for standard output");
+  if (options.svgFile->empty())
+    refuse(translated("{} needs the name of a file, or - for standard output", "--svg"));
   if (options.json && *options.svgFile == "-") {
-    refuse("--json and --svg - cannot both be written to standard output");
+    refuse(
+        translated("{0} and {1} cannot both be written to standard output", "--json", "--svg -"));
   }
 }
 

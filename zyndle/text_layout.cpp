@@ -3,28 +3,30 @@
 #include <algorithm>
 
 #include "Tonelake/foundation/text.h"
+#include "zyndle/text_columns.h"
 
 namespace zyndle {
 namespace {
 
 constexpr std::size_t labelWidth = 13;  // the longest label, its indent and two blanks
 
-// `words` with blanks between them on lines of pageWidth; each line after the first begins with
-// `start`'s width in blanks.
-std::string fill(std::string start, const std::vector<std::string>& words) {
-  const std::size_t indent = tonelake::countCharacters(start);
+// `start` and the pieces on lines of pageWidth; each line after the first begins with `start`'s
+// width in blanks.
+std::string fill(std::string start, const std::vector<TextPiece>& pieces) {
+  const std::size_t indent = countColumns(start);
   std::string text;
   std::string line = std::move(start);
   bool isAtStart = true;
-  for (const std::string& word : words) {
-    const std::size_t width = tonelake::countCharacters(line) + tonelake::countCharacters(word);
-    if (!isAtStart && width + 1 > pageWidth) {
+  for (const TextPiece& piece : pieces) {
+    const std::size_t blank = piece.followsBlank && !isAtStart ? 1 : 0;
+    const bool isFull = countColumns(line) + blank + countColumns(piece.text) > pageWidth;
+    if (isFull && !isAtStart) {
       text += line + '\n';
       line.assign(indent, ' ');
-      isAtStart = true;
+    } else {
+      line.append(blank, ' ');
     }
-    if (!isAtStart) line += ' ';
-    line += word;
+    line += piece.text;
     isAtStart = false;
   }
   return text + line + '\n';
@@ -34,17 +36,22 @@ std::string fill(std::string start, const std::vector<std::string>& words) {
 
 std::string labelledRow(std::string_view label, const std::vector<std::string>& items) {
   // Lines break between items only: "Minor Third" stays together.
-  std::vector<std::string> words = items;
-  for (std::size_t i = 0; i + 1 < words.size(); ++i) words[i] += ',';
+  std::vector<TextPiece> pieces;
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    pieces.push_back({items[i] + (i + 1 < items.size() ? "," : ""), true});
+  }
   std::string start = "  " + std::string(label);
-  start.resize(std::max(labelWidth, start.size() + 1), ' ');
-  return fill(std::move(start), words);
+  const std::size_t width = countColumns(start);
+  start.append(std::max(labelWidth, width + 1) - width, ' ');
+  return fill(std::move(start), pieces);
 }
 
 std::string bulletedSentence(std::string_view sentence) {
-  std::vector<std::string> words;
-  for (const std::string_view word : tonelake::split(sentence, ' ')) words.emplace_back(word);
-  return fill("  - ", words);
+  return fill("  - ", breakablePieces(sentence));
+}
+
+std::string paragraph(std::string_view text) {
+  return fill("", breakablePieces(text));
 }
 
 }  // namespace zyndle

@@ -7,7 +7,7 @@
 
 namespace zyndle {
 
-/// Characters that a line of the terminal holds at most, unless a single word is longer.
+/// Columns that a line of the terminal holds at most, unless a single word is longer.
 inline constexpr std::size_t pageWidth = 80;
 
 /// A row of a table with two columns, further lines under the second column:
@@ -16,5 +16,9 @@ std::string labelledRow(std::string_view label, const std::vector<std::string>& 
 
 /// "  - " and the sentence, further lines under its beginning.
 std::string bulletedSentence(std::string_view sentence);
+
+/// A text on lines of the page, which break at blanks and, in writing that has none, between
+/// characters.
+std::string paragraph(std::string_view text);
 
 }  // namespace zyndle

@@ -47,7 +47,7 @@ TEST_F(Command, AnswersWithStatusAndText) {
       {{"recent", "add", "--help"}, "zyndle recent add F#m7b5"},
       {{"collections", "add", "--help"}, "zyndle collections add \"Warm-up\" C Am F G7"},
       {{"today"}, "Chord of the day 2"},
-      {{"today", "--category", "jazz", "--date", "2024-02-29"}, "2024-02-29, jazz"},
+      {{"today", "--category", "jazz", "--date", "2024-02-29"}, "2024-02-29, Jazz"},
       {{"chord", "C"}, "Place the 2nd finger on the 2nd fret of the 4th string"},
       {{"chord", "C", "major", "7th"}, "C, E, G, B"},
       {{"chord", "F"}, "1━━━"},

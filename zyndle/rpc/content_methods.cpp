@@ -1,5 +1,6 @@
 #include "Tonelake/chords/chord_json.h"
 #include "Tonelake/content/chord_samples.h"
+#include "Tonelake/content/chord_texts.h"
 #include "Tonelake/content/curated_chord_lists.h"
 #include "zyndle/rpc/encoding.h"
 #include "zyndle/rpc/method_table.h"
@@ -16,6 +17,18 @@ json::Value encodeChordList(const tonelake::ChordList& list) {
              return json::Value{{"chord", tonelake::encodeChord(preferred.first)},
                                 {"frets", preferred.second}};
            })}};
+}
+
+json::Value chordTexts(const json::Node& parameters, MethodContext&) {
+  const std::string chordType = parameters.member("chordType").text();
+  const auto textIn = [&](const tonelake::ChordTexts& texts) {
+    const auto found = texts.find(chordType);
+    return found == texts.end() ? json::Value(nullptr) : json::Value(found->second);
+  };
+  return {{"character", textIn(tonelake::chordCharacterData())},
+          {"genre", textIn(tonelake::chordGenreData())},
+          {"description", textIn(tonelake::chordDescriptionData())},
+          {"jazzDescription", textIn(tonelake::jazzChordDescriptionData())}};
 }
 
 json::Value curatedChordLists(const json::Node&, MethodContext&) {
@@ -37,6 +50,7 @@ json::Value getChordSampleSetForChordType(const json::Node& parameters, MethodCo
 }
 
 constexpr MethodRow rows[] = {
+    {"chordTexts", chordTexts},
     {"curatedChordLists", curatedChordLists},
     {"getChordSampleSet", getChordSampleSet},
     {"getChordSampleSetForChordType", getChordSampleSetForChordType},
