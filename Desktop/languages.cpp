@@ -21,11 +21,14 @@ std::string environment(const char* name) {
   return value == nullptr ? "" : value;
 }
 
-// bin/zyndle has its catalogues in share/locale, in an installed tree as in a build folder.
+// bin/zyndle has its catalogues in share/locale, in an installed tree as in a build folder, and so
+// has a program in libexec/zyndle.
 std::filesystem::path catalogueFolder() {
   std::error_code problem;
   const auto program = std::filesystem::read_symlink("/proc/self/exe", problem);
-  return program.parent_path().parent_path() / "share" / "locale";
+  const auto tree = program.parent_path().parent_path();
+  const auto near = tree / "share" / "locale";
+  return std::filesystem::exists(near, problem) ? near : tree.parent_path() / "share" / "locale";
 }
 
 // gettext disregards LANGUAGE in the locale "C", hence one that every machine has. LC_CTYPE goes

@@ -1,29 +1,20 @@
 #include "zyndle/command_line.h"
 
-#include <algorithm>
+#include <csignal>
+#include <exception>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include <CLI/CLI.hpp>
 
 #include "Desktop/languages.h"
 #include "Tonelake/foundation/text.h"
-#include "zyndle/chord_command.h"
-#include "zyndle/collections_command.h"
-#include "zyndle/command.h"
-#include "zyndle/connect_command.h"
+#include "zyndle/command_error.h"
 #include "zyndle/help_formatter.h"
 #include "zyndle/language_option.h"
 #include "zyndle/output.h"
-#include "zyndle/recent_command.h"
-#include "zyndle/rpc_command.h"
-#include "zyndle/settings_command.h"
-#include "zyndle/today_command.h"
 #include "zyndle/translation.h"
-#include "zyndle/voicings_command.h"
-#include "zyndle/widget_command.h"
 
 namespace zyndle {
 namespace {
@@ -37,6 +28,7 @@ constexpr const char* examples = message(R"(Examples:
   zyndle chord G --tuning DADGAD   its shapes in another tuning
   zyndle voicings C/E              every way to play it, easiest first
   zyndle connect "C G/B Am F"      shapes that are close to each other
+  zyndle pack jazzChords           the chords of a style
   zyndle widget chord > today.svg  a widget as a picture
   zyndle settings list             what you have set
   zyndle COMMAND --help            more about a command)");
@@ -100,11 +92,9 @@ std::string describe(const CLI::App& app, const CLI::ParseError& error) {
          translated("see {}", fullName(command) + " --help");
 }
 
-}  // namespace
-
-void runCommandLine(int argc, const char* const* argv) {
-  std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
-  chooseLanguage(arguments);
+// Reads the command line and does what it asks for.
+void run(Arguments typed, AddCommands addCommands) {
+  const std::vector<const char*> arguments = chooseLanguage(typed);
   CLI::App app(translated(description), "zyndle");
   Action action;
   app.set_help_flag("--help,-h", translated("Tell how to use this"));
@@ -118,19 +108,9 @@ void runCommandLine(int argc, const char* const* argv) {
       ->type_name("LANGUAGE");
   app.footer(translated(examples));
   app.require_subcommand(1);
-  addTodayCommand(app, action);
-  addChordCommand(app, action);
-  addVoicingsCommand(app, action);
-  addConnectCommand(app, action);
-  addWidgetCommand(app, action);
-  addRecentCommand(app, action);
-  addCollectionsCommand(app, action);
-  addSettingsCommand(app, action);
-  addRpcCommand(app, action);
+  addCommands(app, action, arguments);
   try {
-    // The parser wants the last one first.
-    std::reverse(arguments.begin(), arguments.end());
-    app.parse(std::move(arguments));
+    app.parse(static_cast<int>(arguments.size()), arguments.data());
   } catch (const CLI::CallForHelp&) {
     return writeStandardOutput(app.help());
   } catch (const CLI::CallForVersion&) {
@@ -139,6 +119,23 @@ void runCommandLine(int argc, const char* const* argv) {
     refuse(describe(app, error));
   }
   action();
+}
+
+}  // namespace
+
+int runProgram(int argc, const char* const* argv, AddCommands addCommands) {
+  // A reader that goes away is an error to handle, not a reason to be killed.
+  std::signal(SIGPIPE, SIG_IGN);
+  try {
+    run({argv, static_cast<std::size_t>(argc)}, addCommands);
+  } catch (const CommandError& error) {
+    reportProblem(error.what());
+    return static_cast<int>(error.status());
+  } catch (const std::exception& error) {
+    reportProblem(error.what());
+    return static_cast<int>(ExitStatus::failure);
+  }
+  return static_cast<int>(ExitStatus::success);
 }
 
 }  // namespace zyndle

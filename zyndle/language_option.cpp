@@ -1,7 +1,8 @@
 #include "zyndle/language_option.h"
 
-#include <algorithm>
 #include <optional>
+#include <string>
+#include <string_view>
 
 #include "Desktop/languages.h"
 #include "Tonelake/foundation/text.h"
@@ -12,39 +13,47 @@ namespace zyndle {
 namespace {
 
 constexpr std::string_view option = "--lang";
+constexpr std::string_view joinedOption = "--lang=";
 
-// The value of the last --lang, as with other options that are given twice.
-std::optional<std::string> takeOption(std::vector<std::string>& arguments) {
-  std::optional<std::string> value;
-  const std::string joined = std::string(option) + "=";
-  for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--";) {
-    const bool isAlone = arguments[i] == option;
-    if (!isAlone && !arguments[i].starts_with(joined)) {
-      ++i;
-      continue;
+struct Split {
+  std::optional<std::string> language;  ///< of the last --lang, as with other options given twice
+  std::vector<const char*> others;
+};
+
+Split splitArguments(Arguments arguments) {
+  Split split;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string_view argument = arguments[i];
+    if (argument == "--") {
+      split.others.insert(split.others.end(), arguments.begin() + static_cast<std::ptrdiff_t>(i),
+                          arguments.end());
+      return split;
     }
-    if (isAlone && i + 1 == arguments.size()) {
-      refuse(translated("{} needs one value", option));
+    if (argument.starts_with(joinedOption)) {
+      split.language = argument.substr(joinedOption.size());
+    } else if (argument == option) {
+      if (++i == arguments.size()) refuse(translated("{} needs one value", option));
+      split.language = arguments[i];
+    } else {
+      split.others.push_back(arguments[i]);
     }
-    value = isAlone ? arguments[i + 1] : arguments[i].substr(joined.size());
-    const auto first = arguments.begin() + static_cast<std::ptrdiff_t>(i);
-    arguments.erase(first, first + (isAlone ? 2 : 1));
   }
-  return value;
+  return split;
 }
 
 }  // namespace
 
-void chooseLanguage(std::vector<std::string>& arguments) {
+std::vector<const char*> chooseLanguage(Arguments arguments) {
   chooseStrings(desktop::makeStringTable(desktop::languageOfEnvironment()));
-  const std::optional<std::string> wanted = takeOption(arguments);
-  if (!wanted) return;
-  const std::optional<std::string> language = desktop::languageOfLocale(*wanted);
+  Split split = splitArguments(arguments);
+  if (!split.language) return split.others;
+  const std::optional<std::string> language = desktop::languageOfLocale(*split.language);
   if (!language) {
-    refuse(translated("{0} {1} is not one of {2}", option, tonelake::quoted(*wanted),
+    refuse(translated("{0} {1} is not one of {2}", option, tonelake::quoted(*split.language),
                       tonelake::join(desktop::knownLanguages(), ", ")));
   }
   chooseStrings(desktop::makeStringTable(*language));
+  return split.others;
 }
 
 }  // namespace zyndle

@@ -20,7 +20,7 @@ constexpr const char* examples =
 answer. Parameters are named; diagnostics go to standard error.
 
 Example:
-  echo '{"jsonrpc":"2.0","id":1,"method":"lookUpChord","params":{"name":"Am7"}}' |
+  echo '{"jsonrpc":"2.0","id":1,"method":"lookUpChord","params":{"name":"C"}}' |
     zyndle rpc)");
 
 std::shared_ptr<const tonelake::Calendar> calendarOfZone(const std::string& zone) {
