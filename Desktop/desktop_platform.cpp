@@ -40,6 +40,7 @@ tonelake::Platform makeDesktopPlatform(const DesktopOptions& options) {
   platform.diagnostics = tonelake::makeStreamDiagnostics(options.diagnostics);
   platform.calendar = makeMachineCalendar(platform.diagnostics);
   platform.application = {ZYNDLE_VERSION, options.build};
+  platform.strings = options.strings;
   const SettingsFiles files = settingsFiles();
   platform.standardSettings = makeStandardSettings(files.standard, platform.diagnostics);
   platform.sharedSettings =

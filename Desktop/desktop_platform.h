@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "Tonelake/platform/platform.h"
@@ -13,6 +14,9 @@ struct DesktopOptions {
 
   /// The application's build, for example "212". Positions stored by another build are not used.
   std::string build = "0";
+
+  /// The library's texts in the user's language; see Desktop/languages.h.
+  std::shared_ptr<const tonelake::StringTable> strings = tonelake::makeEnglishStringTable();
 
   /// Called with one line that names the file when the shared settings cannot be opened; not
   /// expected to return. Prints the line on standard error and ends the process with status 1.

@@ -17,12 +17,14 @@
 #include "Tonelake/theory/spelling_tables.h"
 #include "zyndle/chord_name.h"
 #include "zyndle/chord_sheet.h"
+#include "zyndle/chord_words.h"
 #include "zyndle/drawing.h"
 #include "zyndle/host.h"
 #include "zyndle/instrument_options.h"
 #include "zyndle/number_option.h"
 #include "zyndle/output_options.h"
 #include "zyndle/text_layout.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -31,15 +33,15 @@ using tonelake::Chord;
 using tonelake::ChordPosition;
 using tonelake::WholeNumber;
 
-constexpr const char* description = "Show a chord and how to play it";
+constexpr const char* description = message("Show a chord and how to play it");
 
 constexpr const char* introduction =
-    R"(A name is written the way chord sheets have it: Am7, F#m7b5, Bbmaj7, C/E,
+    message(R"(A name is written the way chord sheets have it: Am7, F#m7b5, Bbmaj7, C/E,
 "C major 7th". Sharps and flats may be # and b.
 
-)";
+)");
 
-constexpr const char* examples = R"(
+constexpr const char* examples = message(R"(
 Examples:
   zyndle chord Am7
   zyndle chord D major 7th --limit 8
@@ -47,7 +49,7 @@ Examples:
   zyndle chord A7 --tuning "Eb Ab Db Gb Bb Eb"
   zyndle chord E --tuning "open G" --left-handed
   zyndle chord Eb --capo 3
-  zyndle chord F --svg - > f-major.svg)";
+  zyndle chord F --svg - > f-major.svg)");
 
 constexpr WholeNumber defaultLimit = 4;
 
@@ -60,6 +62,7 @@ struct ChordOptions {
 
 struct ShownChord {
   ChordSheet sheet;
+  ChordWords words;
   Instrument instrument;
   std::vector<ChordPosition> positions;
 };
@@ -104,7 +107,17 @@ std::string jsonOf(const ShownChord& shown) {
     object["positions"].push_back(tonelake::encodeChordPosition(position));
   }
   if (!shown.positions.empty()) object["instructions"] = instructionsFor(shown.positions.front());
+  addChordWords(object, shown.words);
   return tonelake::json::write(object) + '\n';
+}
+
+// What is told about the chord below its shapes.
+std::string paragraphsOf(const ChordWords& words) {
+  std::string text;
+  for (const auto& told : {words.description, words.jazzDescription}) {
+    if (told) text += '\n' + paragraph(*told);
+  }
+  return text;
 }
 
 // Names that are the same but for the writing of their signs are listed once.
@@ -120,18 +133,27 @@ std::vector<std::string> namesToList(const ChordSheet& sheet) {
   return kept;
 }
 
+std::string shapesOf(const ShownChord& shown, const DrawingStyle& style) {
+  if (shown.positions.empty()) return translated("No shape is known for it in this tuning.") + '\n';
+  const std::string text =
+      drawInTerminal(shown.sheet.chord, shown.positions, soundingStrings(shown.instrument), style);
+  const std::string instructions = listInstructions(shown.positions.front());
+  if (instructions.empty()) return text;
+  const std::string heading =
+      shown.positions.size() > 1 ? translated("The first shape:") + '\n' : "";
+  return text + '\n' + heading + instructions;
+}
+
 std::string textOf(const ShownChord& shown, const DrawingStyle& style) {
   const ChordSheet& sheet = shown.sheet;
   std::string text = emphasized(sheet.title, style) + '\n';
-  text += labelledRow("Also", namesToList(sheet));
-  text += labelledRow("Notes", sheet.notes);
-  text += labelledRow("Intervals", sheet.intervals);
+  text += labelledRow(translated("Also"), namesToList(sheet));
+  text += labelledRow(translated("Notes"), sheet.notes);
+  text += labelledRow(translated("Intervals"), sheet.intervals);
+  text += labelledRow(translated("Character"), {shown.words.character.value_or("")});
+  text += labelledRow(translated("Genres"), {shown.words.genre.value_or("")});
   text += instrumentRows(shown.instrument) + '\n';
-  if (shown.positions.empty()) return text + "No shape is known for it in this tuning.\n";
-  text += drawInTerminal(sheet.chord, shown.positions, soundingStrings(shown.instrument), style);
-  const std::string instructions = listInstructions(shown.positions.front());
-  if (instructions.empty()) return text;
-  return text + (shown.positions.size() > 1 ? "\nThe first shape:\n" : "\n") + instructions;
+  return text + shapesOf(shown, style) + paragraphsOf(shown.words);
 }
 
 void showChord(const ChordOptions& options) {
@@ -141,7 +163,8 @@ void showChord(const ChordOptions& options) {
   installHost(options.output.isForPrograms());
   const ChordSheet sheet =
       makeChordSheet(readChordName(tonelake::join(options.name, " "), options.output.ascii));
-  const ShownChord shown{sheet, instrument, findPositions(sheet.chord, limit, instrument)};
+  const ShownChord shown{sheet, describeInWords(sheet.chord), instrument,
+                         findPositions(sheet.chord, limit, instrument)};
   const DrawingStyle style = drawingStyle(options.output);
   writeSvg(options.output, sheet.chord, shown.positions, soundingStrings(instrument), style);
   if (options.output.svgFile == "-") return;
@@ -152,13 +175,14 @@ void showChord(const ChordOptions& options) {
 
 void addChordCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<ChordOptions>();
-  CLI::App& command = *app.add_subcommand("chord", description);
-  command.footer(std::string(introduction) + instrumentHelp + examples);
-  command.add_option("NAME", options->name, "The chord's name, in one word or several")
+  CLI::App& command = *app.add_subcommand("chord", translated(description));
+  command.footer(translated(introduction) + translated(instrumentHelp) + translated(examples));
+  command.add_option("NAME", options->name, translated("The chord's name, in one word or several"))
       ->required()
       ->type_name("");
   addInstrumentOptions(command, options->instrument);
-  command.add_option("--limit", options->limit, "Shapes to show, at most (4)")->type_name("N");
+  command.add_option("--limit", options->limit, translated("Shapes to show, at most (4)"))
+      ->type_name("N");
   addOutputOptions(command, options->output);
   command.callback([options, &action] { action = [options] { showChord(*options); }; });
 }

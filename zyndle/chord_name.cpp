@@ -13,6 +13,7 @@
 #include "zyndle/command_error.h"
 #include "zyndle/nearest_names.h"
 #include "zyndle/note_name.h"
+#include "zyndle/translation.h"
 
 // "a MINOR 7th/c", which no dictionary holds, becomes "Am7/C": the root is a capital, the quality
 // without blanks is "MINOR7th", whose word stands for "m" and whose "th" for nothing, and the bass
@@ -153,20 +154,21 @@ ParsedChordName placeBass(const Chord& chord, Note bass) {
     placed.variant = static_cast<tonelake::WholeNumber>(i);
     return {placed, ""};
   }
-  return {std::nullopt, tonelake::Chords::getTitleForChord(chord) + " has no " +
-                            std::string(bass.rawValue()) + " to put in the bass; its notes are " +
-                            tonelake::join(tones, ", ")};
+  return {std::nullopt, translated("{0} has no {1} to put in the bass; its notes are {2}",
+                                   tonelake::Chords::getTitleForChord(chord), bass.rawValue(),
+                                   tonelake::join(tones, ", "))};
 }
 
 std::string unknownName(const std::string& name) {
-  std::string problem = "no chord is named " + tonelake::quoted(name);
+  std::string problem = translated("no chord is named {}", tonelake::quoted(name));
   if (name.size() > longestName) return problem;
   const std::vector<Chord> nearest = nearestChords(withCapital(name));
-  if (nearest.empty()) return problem + "; names look like Am7, F#m7b5, C/E or \"G major\"";
+  if (nearest.empty())
+    return problem + "; " + translated("names look like {}", "Am7, F#m7b5, C/E, \"G major\"");
   std::vector<std::string> titles;
   titles.reserve(nearest.size());
   for (const Chord& chord : nearest) titles.push_back(tonelake::Chords::getTitleForChord(chord));
-  return problem + "; the nearest are " + tonelake::join(titles, ", ");
+  return problem + "; " + translated("the nearest are {}", tonelake::join(titles, ", "));
 }
 
 }  // namespace
@@ -185,9 +187,10 @@ std::string plainChordName(std::string_view typed) {
 
 ParsedChordName parseChordName(std::string_view typed) {
   const std::string name = tidied(typed);
-  if (name.empty()) return {std::nullopt, "the chord name is empty"};
+  if (name.empty()) return {std::nullopt, translated("the chord name is empty")};
   if (!tonelake::isValidUtf8(name)) {
-    return {std::nullopt, "the chord name " + tonelake::quoted(name) + " is not valid UTF-8"};
+    return {std::nullopt,
+            translated("the chord name {} is not valid UTF-8", tonelake::quoted(name))};
   }
   if (std::optional<Chord> chord = lookUpLeniently(name)) return {chord, ""};
   if (const auto parts = splitBass(name)) {

@@ -15,23 +15,24 @@
 #include "zyndle/host.h"
 #include "zyndle/output.h"
 #include "zyndle/shared_list.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
 
 using todaychord::WidgetChordCollection;
 
-constexpr const char* description = "List and add your own chord collections";
+constexpr const char* description = message("List and add your own chord collections");
 
 constexpr const char* examples =
-    R"(The widget with the collections shows the first seven of yours, and curated
+    message(R"(The widget with the collections shows the first seven of yours, and curated
 packs where there are fewer.
 
 Examples:
   zyndle collections add "Warm-up" C Am F G7
   zyndle collections add Dreamy Cmaj7 "E minor 7th"
   zyndle collections list
-  zyndle collections clear)";
+  zyndle collections clear)");
 
 constexpr SharedList collections{todaychord::chordCollectionsKey, "collections"};
 
@@ -48,9 +49,10 @@ std::string newIdentifier() {
 }
 
 WidgetChordCollection readCollection(const CollectionOptions& options) {
-  if (options.title.find_first_not_of(" \t\n") == std::string::npos) refuse("TITLE is empty");
+  if (options.title.find_first_not_of(" \t\n") == std::string::npos)
+    refuse(translated("{} is empty", "TITLE"));
   if (!tonelake::isValidUtf8(options.title)) {
-    refuse("TITLE " + tonelake::quoted(options.title) + " is not UTF-8");
+    refuse(translated("{0} {1} is not valid UTF-8", "TITLE", tonelake::quoted(options.title)));
   }
   WidgetChordCollection collection{newIdentifier(), options.title, "", {}};
   for (const std::string& name : options.chords) collection.chords.push_back(readChordName(name));
@@ -69,7 +71,8 @@ void addCollection(const CollectionOptions& options) {
 std::string describe(const WidgetChordCollection& collection) {
   std::vector<std::string> chords;
   for (const tonelake::Chord& chord : collection.chords) chords.push_back(describeChord(chord));
-  const std::string list = chords.empty() ? "(no chords)" : tonelake::join(chords, ", ");
+  const std::string list =
+      chords.empty() ? translated("(no chords)") : tonelake::join(chords, ", ");
   return printable(collection.title) + "\n  " + printable(list) + '\n';
 }
 
@@ -80,31 +83,32 @@ void listCollections() {
     for (const auto& collection : todaychord::decodeChordCollections(data)) {
       text += describe(collection);
     }
-    writeStandardOutput(text.empty() ? "(none)\n" : text);
+    writeStandardOutput(text.empty() ? translated("(none)") + '\n' : text);
   });
 }
 
 }  // namespace
 
 void addCollectionsCommand(CLI::App& app, Action& action) {
-  CLI::App& command = *app.add_subcommand("collections", description);
-  command.footer(examples);
+  CLI::App& command = *app.add_subcommand("collections", translated(description));
+  command.footer(translated(examples));
   command.require_subcommand(1);
 
-  CLI::App& add = *command.add_subcommand("add", "Add a collection at the end");
+  CLI::App& add = *command.add_subcommand("add", translated("Add a collection at the end"));
   const auto options = std::make_shared<CollectionOptions>();
-  add.add_option("TITLE", options->title, "What the collection is called")
+  add.add_option("TITLE", options->title, translated("What the collection is called"))
       ->required()
       ->type_name("");
-  add.add_option("CHORD", options->chords, "The names of its chords, each one argument")
+  add.add_option("CHORD", options->chords, translated("The names of its chords, each one argument"))
       ->required()
       ->type_name("");
   add.callback([options, &action] { action = [options] { addCollection(*options); }; });
 
-  CLI::App& list = *command.add_subcommand("list", "List the collections with their chords");
+  CLI::App& list =
+      *command.add_subcommand("list", translated("List the collections with their chords"));
   list.callback([&action] { action = listCollections; });
 
-  CLI::App& clear = *command.add_subcommand("clear", "Forget them all");
+  CLI::App& clear = *command.add_subcommand("clear", translated("Forget them all"));
   clear.callback([&action] { action = [] { collections.clear(); }; });
 }
 

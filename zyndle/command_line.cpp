@@ -2,22 +2,27 @@
 
 #include <csignal>
 #include <exception>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include <CLI/CLI.hpp>
 
+#include "Desktop/languages.h"
 #include "Tonelake/foundation/text.h"
 #include "zyndle/command_error.h"
+#include "zyndle/help_formatter.h"
+#include "zyndle/language_option.h"
 #include "zyndle/output.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
 
 constexpr const char* description =
-    "Guitar chords: their names, notes and shapes, and a chord for every day";
+    message("Guitar chords: their names, notes and shapes, and a chord for every day");
 
-constexpr const char* examples = R"(Examples:
+constexpr const char* examples = message(R"(Examples:
   zyndle today                     today's chord and how to play it
   zyndle chord F#m7b5              a chord by its name
   zyndle chord G --tuning DADGAD   its shapes in another tuning
@@ -25,13 +30,12 @@ constexpr const char* examples = R"(Examples:
   zyndle connect "C G/B Am F"      shapes that are close to each other
   zyndle find "E, G, C"            the chord that some notes are
   zyndle progression I-V-vi-IV     chords that go well together
+  zyndle pack jazzChords           the chords of a style
   zyndle widget chord > today.svg  a widget as a picture
   zyndle settings list             what you have set
-  zyndle COMMAND --help            more about a command)";
+  zyndle COMMAND --help            more about a command)");
 
 constexpr const char* version = "zyndle " ZYNDLE_VERSION;
-
-constexpr std::size_t optionColumn = 26;
 
 // The innermost subcommand that was typed, the app itself when there is none.
 const CLI::App& chosenCommand(const CLI::App& app) {
@@ -52,11 +56,14 @@ bool isOption(const std::string& argument) {
 std::string describeMissingCommand(const CLI::App& command) {
   std::vector<std::string> names;
   for (const CLI::App* known : command.get_subcommands({})) names.push_back(known->get_name());
-  const std::string known = "; " + fullName(command) + " has " + tonelake::join(names, ", ");
+  // TRANSLATORS: {0} is a command, {1} are the commands below it: "zyndle settings has get, set".
+  const std::string known =
+      "; " + translated("{0} has {1}", fullName(command), tonelake::join(names, ", "));
   const std::vector<std::string> surplus = command.remaining();
-  if (surplus.empty()) return "a command is missing" + known;
-  const std::string kind = isOption(surplus.front()) ? "option " : "command ";
-  return "there is no " + kind + tonelake::quoted(surplus.front()) + known;
+  if (surplus.empty()) return translated("a command is missing") + known;
+  const char* problem = isOption(surplus.front()) ? message("there is no option {}")
+                                                  : message("there is no command {}");
+  return translated(problem, tonelake::quoted(surplus.front())) + known;
 }
 
 // What is wrong with the arguments of a command, in our own words. The parser's messages begin
@@ -66,33 +73,42 @@ std::string describeArguments(const CLI::App& command, const CLI::ParseError& er
   std::string what = error.what();
   const std::string subject = what.substr(0, what.find_first_of(" :"));
   if (!surplus.empty() && isOption(surplus.front())) {
-    return "there is no option " + tonelake::quoted(surplus.front());
+    return translated("there is no option {}", tonelake::quoted(surplus.front()));
   }
-  if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return subject + " is missing";
+  if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr)
+    return translated("{} is missing", subject);
   if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
     const bool isFlag = what.find("flag override") != std::string::npos;
-    return isFlag ? "--" + subject + " takes no value" : subject + " needs one value";
+    return isFlag ? translated("{} takes no value", "--" + subject)
+                  : translated("{} needs one value", subject);
   }
   if (surplus.empty()) return what;
-  return tonelake::quoted(surplus.front()) + " is one argument too many";
+  return translated("{} is one argument too many", tonelake::quoted(surplus.front()));
 }
 
 std::string describe(const CLI::App& app, const CLI::ParseError& error) {
   const CLI::App& command = chosenCommand(app);
   const bool hasCommands = !command.get_subcommands({}).empty();
   if (hasCommands && command.get_subcommands().empty()) return describeMissingCommand(command);
-  return describeArguments(command, error) + "; see " + fullName(command) + " --help";
+  return describeArguments(command, error) + "; " +
+         translated("see {}", fullName(command) + " --help");
 }
 
 // Reads the command line and does what it asks for.
-void run(Arguments arguments, AddCommands addCommands) {
-  CLI::App app(description, "zyndle");
+void run(Arguments typed, AddCommands addCommands) {
+  const std::vector<const char*> arguments = chooseLanguage(typed);
+  CLI::App app(translated(description), "zyndle");
   Action action;
-  app.set_help_flag("--help,-h", "Tell how to use this");
-  app.set_version_flag("--version", version, "Write the version");
-  app.get_formatter()->column_width(optionColumn);
-  app.get_formatter()->label("REQUIRED", "");
-  app.footer(examples);
+  app.set_help_flag("--help,-h", translated("Tell how to use this"));
+  app.set_version_flag("--version", version, translated("Write the version"));
+  app.formatter(std::make_shared<HelpFormatter>());
+  // Taken out of the arguments long before; here for the help.
+  std::string language;
+  app.add_option(
+         "--lang", language,
+         translated("Speak this language: {}", tonelake::join(desktop::knownLanguages(), ", ")))
+      ->type_name("LANGUAGE");
+  app.footer(translated(examples));
   app.require_subcommand(1);
   addCommands(app, action, arguments);
   try {

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include "zyndle/command_error.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -15,7 +16,7 @@ namespace {
 std::filesystem::path ownFolder() {
   std::error_code error;
   const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
-  if (error) fail("cannot tell where zyndle is installed: " + error.message());
+  if (error) fail(translated("cannot tell where this program is installed: {}", error.message()));
   return program.parent_path();
 }
 
@@ -23,7 +24,7 @@ std::filesystem::path ownFolder() {
 
 void addCompanionCommand(CLI::App& app, Action& action, Arguments arguments,
                          const Companion& companion) {
-  CLI::App& command = *app.add_subcommand(companion.name, companion.description);
+  CLI::App& command = *app.add_subcommand(companion.name, translated(companion.description));
   command.set_help_flag();
   command.prefix_command();
   const char* const program = companion.program;
@@ -40,8 +41,8 @@ void becomeCompanion(const char* program, Arguments arguments) {
   for (const auto& place : {folder, folder / ".." / "libexec" / "zyndle"}) {
     ::execv((place / program).c_str(), list.data());
   }
-  fail(std::string(program) + " is missing: it should be installed beside zyndle, in " +
-       folder.string());
+  fail(translated("{0} is missing: it should be installed beside zyndle, in {1}", program,
+                  folder.string()));
 }
 
 }  // namespace zyndle

@@ -16,9 +16,10 @@ using Arguments = std::span<const char* const>;
 /// Adds a subcommand that lives in a program of its own, so that only those who use it load its
 /// libraries. Its arguments, --help included, are read there.
 struct Companion {
-  const char* name;         ///< of the subcommand: "jam"
-  const char* description;  ///< the line about it in `zyndle --help`
-  const char* program;      ///< "zyndle-jam"
+  const char* name;  ///< of the subcommand: "jam"
+  const char*
+      description;      ///< the line about it in `zyndle --help`, in English, marked as a message
+  const char* program;  ///< "zyndle-jam"
 };
 void addCompanionCommand(CLI::App& app, Action& action, Arguments arguments,
                          const Companion& companion);

@@ -17,6 +17,7 @@
 #include "zyndle/host.h"
 #include "zyndle/instrument_options.h"
 #include "zyndle/output_options.h"
+#include "zyndle/translation.h"
 #include "zyndle/voicing_record.h"
 
 namespace zyndle {
@@ -25,20 +26,20 @@ namespace {
 using tonelake::Chord;
 using tonelake::Voicings::Voicing;
 
-constexpr const char* description = "Choose shapes that lie close for a row of chords";
+constexpr const char* description = message("Choose shapes that lie close for a row of chords");
 
 constexpr const char* introduction =
-    R"(Chords are written without blanks inside, with blanks, commas or bar lines
+    message(R"(Chords are written without blanks inside, with blanks, commas or bar lines
 between them.
 
-)";
+)");
 
-constexpr const char* examples = R"(
+constexpr const char* examples = message(R"(
 Examples:
   zyndle connect "C G/B Am F"
   zyndle connect Dm7 G7 Cmaj7
   zyndle connect "| D | A | Bm | G |" --tuning "drop D"
-  zyndle connect "G Em C D" --capo 2 --json)";
+  zyndle connect "G Em C D" --capo 2 --json)");
 
 struct ConnectOptions {
   std::vector<std::string> names;
@@ -65,7 +66,7 @@ std::vector<Chord> readChords(const ConnectOptions& options) {
   for (const std::string& name : namesIn(options.names)) {
     chords.push_back(readChordName(name, options.output.ascii));
   }
-  if (chords.empty()) refuse("CHORDS names no chord");
+  if (chords.empty()) refuse(translated("{} names no chord", "CHORDS"));
   return chords;
 }
 
@@ -106,9 +107,10 @@ void showConnected(const ConnectOptions& options) {
 
 void addConnectCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<ConnectOptions>();
-  CLI::App& command = *app.add_subcommand("connect", description);
-  command.footer(std::string(introduction) + instrumentHelp + examples);
-  command.add_option("CHORDS", options->names, "The names of the chords, in their order")
+  CLI::App& command = *app.add_subcommand("connect", translated(description));
+  command.footer(translated(introduction) + translated(instrumentHelp) + translated(examples));
+  command
+      .add_option("CHORDS", options->names, translated("The names of the chords, in their order"))
       ->required()
       ->type_name("");
   addInstrumentOptions(command, options->instrument);

@@ -3,6 +3,7 @@
 #include "Tonelake/chords/chord_naming.h"
 #include "Tonelake/fingering/voicings.h"
 #include "zyndle/command_error.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 
@@ -17,11 +18,11 @@ std::vector<Voicing> connectShapes(const std::vector<Chord>& chords, const Instr
   if (!row.empty()) return row;
   for (const Chord& chord : chords) {
     if (tonelake::Voicings::findVoicings(chord, instrument.tuning, options).empty()) {
-      fail("there is no way to play " + tonelake::Chords::getTitleForChord(chord) +
-           " in this tuning");
+      fail(translated("there is no way to play {} in this tuning",
+                      tonelake::Chords::getTitleForChord(chord)));
     }
   }
-  fail("there is no way to play these chords");
+  fail(translated("there is no way to play these chords"));
 }
 
 std::vector<NamedShape> nameShapes(const std::vector<Chord>& chords,

@@ -11,6 +11,7 @@
 #include "Tonelake/platform/platform.h"
 #include "zyndle/command_error.h"
 #include "zyndle/output.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -72,7 +73,7 @@ void writeSvg(const OutputOptions& options, const Chord& chord,
               const std::vector<ChordPosition>& positions, const tonelake::TuningNames& tuning,
               const DrawingStyle& style) {
   if (!options.svgFile) return;
-  if (positions.empty()) fail("there is no shape to draw");
+  if (positions.empty()) fail(translated("there is no shape to draw"));
   const todaychord::Scene scene =
       todaychord::drawDiagramCard(viewOf(chord, positions.front(), tuning, style),
                                   tonelake::Chords::getTitleForChord(chord), cardWidth);

@@ -7,6 +7,7 @@
 #include "Tonelake/platform/platform.h"
 #include "zyndle/command_error.h"
 #include "zyndle/output.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -24,6 +25,7 @@ namespace {
 void installHost(bool isForPrograms) {
   desktop::DesktopOptions options;
   if (isForPrograms) options.diagnostics = tonelake::DiagnosticStream::standardError;
+  options.strings = strings();
   options.onSharedSettingsProblem = endCommand;
   tonelake::installPlatform(desktop::makeDesktopPlatform(options));
 }

@@ -7,6 +7,7 @@
 #include "zyndle/command_error.h"
 #include "zyndle/number_option.h"
 #include "zyndle/text_layout.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 
@@ -14,9 +15,11 @@ using tonelake::TuningNames;
 
 void addInstrumentOptions(CLI::App& command, InstrumentOptions& options) {
   command
-      .add_option("--tuning", options.tuning, "The open strings, lowest first, or a tuning's name")
+      .add_option("--tuning", options.tuning,
+                  translated("The open strings, lowest first, or a tuning's name"))
       ->type_name("TUNING");
-  command.add_option("--capo", options.capo, "The capo's fret, 0 to 12 (0)")->type_name("N");
+  command.add_option("--capo", options.capo, translated("The capo's fret, 0 to 12 (0)"))
+      ->type_name("N");
 }
 
 Instrument readInstrument(const InstrumentOptions& options) {
@@ -44,9 +47,10 @@ TuningNames soundingStrings(const Instrument& instrument) {
 std::string instrumentRows(const Instrument& instrument) {
   std::string rows;
   if (instrument.tuning != tonelake::Tuning::standard) {
-    rows += labelledRow("Tuning", instrument.tuning);
+    rows += labelledRow(translated("Tuning"), instrument.tuning);
   }
-  if (instrument.capo != 0) rows += labelledRow("Capo", {std::to_string(instrument.capo)});
+  if (instrument.capo != 0)
+    rows += labelledRow(translated("Capo"), {std::to_string(instrument.capo)});
   return rows;
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "Tonelake/theory/tuning.h"
+#include "zyndle/translation.h"
 
 namespace CLI {
 class App;
@@ -24,13 +25,13 @@ struct Instrument {
 
 /// How a tuning and a capo are given, for the help of a subcommand; ends with a line break.
 inline constexpr const char* instrumentHelp =
-    R"(A tuning is six notes, lowest string first, or the name of a common one:
+    message(R"(A tuning is six notes, lowest string first, or the name of a common one:
 standard, half step down, full step down, drop D, double drop D, drop C#,
 drop C, DADGAD, open A, open C, open D, open D minor, open E, open G,
 all fourths, new standard.
 
 With a capo, shapes are counted from it and the names are what sounds.
-)";
+)");
 
 /// Adds --tuning and --capo to a subcommand. `options` has to live as long as the subcommand.
 void addInstrumentOptions(CLI::App& command, InstrumentOptions& options);

@@ -3,6 +3,7 @@
 #include "zyndle/command_line.h"
 #include "zyndle/connect_command.h"
 #include "zyndle/find_command.h"
+#include "zyndle/packs_command.h"
 #include "zyndle/progression_command.h"
 #include "zyndle/progressions_command.h"
 #include "zyndle/recent_command.h"
@@ -23,6 +24,7 @@ void addCommands(CLI::App& app, zyndle::Action& action, zyndle::Arguments /*argu
   zyndle::addFindCommand(app, action);
   zyndle::addProgressionCommand(app, action);
   zyndle::addProgressionsCommand(app, action);
+  zyndle::addPacksCommands(app, action);
   zyndle::addWidgetCommand(app, action);
   zyndle::addRecentCommand(app, action);
   zyndle::addCollectionsCommand(app, action);

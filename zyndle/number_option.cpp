@@ -4,6 +4,7 @@
 
 #include "Tonelake/foundation/text.h"
 #include "zyndle/command_error.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 
@@ -18,8 +19,10 @@ WholeNumber readNumber(std::string_view option, const std::optional<std::string>
   const auto [stop, error] = std::from_chars(text->data(), end, number);
   const bool isNumber = error == std::errc() && stop == end;
   if (!isNumber || number < lowest || (highest && number > *highest)) {
-    refuse(std::string(option) + ' ' + tonelake::quoted(*text) + " is not a whole number from " +
-           std::to_string(lowest) + (highest ? " to " + std::to_string(*highest) : " up"));
+    refuse(highest ? translated("{0} {1} is not a whole number from {2} to {3}", option,
+                                tonelake::quoted(*text), lowest, *highest)
+                   : translated("{0} {1} is not a whole number from {2} up", option,
+                                tonelake::quoted(*text), lowest));
   }
   return number;
 }

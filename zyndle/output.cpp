@@ -10,6 +10,7 @@
 
 #include "Tonelake/foundation/text.h"
 #include "zyndle/command_error.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -29,7 +30,7 @@ int writeAll(int descriptor, std::string_view text) {
 }
 
 [[noreturn]] void failWriting(const std::string& target, int error) {
-  fail("cannot write " + target + ": " + std::strerror(error));
+  fail(translated("cannot write {0}: {1}", target, std::strerror(error)));
 }
 
 bool isControl(char byte) {
@@ -43,7 +44,7 @@ void writeStandardOutput(std::string_view text) {
   std::fflush(stdout);
   const int error = writeAll(STDOUT_FILENO, text);
   if (error == EPIPE) fail("");
-  if (error != 0) failWriting("standard output", error);
+  if (error != 0) failWriting(translated("standard output"), error);
 }
 
 void writeFile(const std::string& path, std::string_view text) {

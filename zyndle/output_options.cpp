@@ -5,42 +5,48 @@
 #include "Desktop/ascii_text.h"
 #include "zyndle/command_error.h"
 #include "zyndle/output.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 
 namespace {
 
 void addFlag(CLI::App& command, const char* name, bool& flag, const char* meaning) {
-  command.add_flag(name, flag, meaning)->disable_flag_override();
+  command.add_flag(name, flag, translated(meaning))->disable_flag_override();
 }
 
 }  // namespace
 
 void addFormatOptions(CLI::App& command, OutputOptions& options) {
-  addFlag(command, "--ascii", options.ascii, "Write and draw with ASCII characters only");
-  addFlag(command, "--json", options.json, "Write one JSON object, for scripts");
+  addFlag(command, "--ascii", options.ascii, message("Write and draw with ASCII characters only"));
+  addFlag(command, "--json", options.json, message("Write one JSON object, for scripts"));
 }
 
 void addTextOptions(CLI::App& command, OutputOptions& options) {
-  addFlag(command, "--left-handed", options.leftHanded, "Mirror the diagrams");
-  addFlag(command, "--right-handed", options.rightHanded, "Do not, even if left_handed is set");
+  addFlag(command, "--left-handed", options.leftHanded, message("Mirror the diagrams"));
+  addFlag(command, "--right-handed", options.rightHanded,
+          message("Do not, even if left_handed is set"));
   addFormatOptions(command, options);
 }
 
 void addOutputOptions(CLI::App& command, OutputOptions& options) {
   addTextOptions(command, options);
-  command.add_option("--svg", options.svgFile, "Draw the first shape too; - for standard output")
+  command
+      .add_option("--svg", options.svgFile,
+                  translated("Draw the first shape too; - for standard output"))
       ->type_name("FILE");
 }
 
 void checkOutputOptions(const OutputOptions& options) {
   if (options.leftHanded && options.rightHanded) {
-    refuse("--left-handed and --right-handed contradict each other");
+    refuse(translated("{0} and {1} contradict each other", "--left-handed", "--right-handed"));
   }
   if (!options.svgFile) return;
-  if (options.svgFile->empty()) refuse("--svg needs the name of a file, or - for standard output");
+  if (options.svgFile->empty())
+    refuse(translated("{} needs the name of a file, or - for standard output", "--svg"));
   if (options.json && *options.svgFile == "-") {
-    refuse("--json and --svg - cannot both be written to standard output");
+    refuse(
+        translated("{0} and {1} cannot both be written to standard output", "--json", "--svg -"));
   }
 }
 

@@ -12,20 +12,21 @@
 #include "zyndle/host.h"
 #include "zyndle/output.h"
 #include "zyndle/shared_list.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
 
-constexpr const char* description = "List and add recently viewed chords";
+constexpr const char* description = message("List and add recently viewed chords");
 
 constexpr const char* examples =
-    R"(The widget with the recently viewed chords shows the first eight of them.
+    message(R"(The widget with the recently viewed chords shows the first eight of them.
 
 Examples:
   zyndle recent add F#m7b5
   zyndle recent add C major 7th
   zyndle recent list
-  zyndle recent clear)";
+  zyndle recent clear)");
 
 constexpr SharedList recentChords{todaychord::recentlyViewedChordsKey, "recent"};
 
@@ -46,28 +47,30 @@ void listRecentChords() {
     for (const tonelake::Chord& chord : todaychord::decodeRecentlyViewedChords(data)) {
       text += printable(describeChord(chord)) + '\n';
     }
-    writeStandardOutput(text.empty() ? "(none)\n" : text);
+    writeStandardOutput(text.empty() ? translated("(none)") + '\n' : text);
   });
 }
 
 }  // namespace
 
 void addRecentCommand(CLI::App& app, Action& action) {
-  CLI::App& command = *app.add_subcommand("recent", description);
-  command.footer(examples);
+  CLI::App& command = *app.add_subcommand("recent", translated(description));
+  command.footer(translated(examples));
   command.require_subcommand(1);
 
-  CLI::App& add = *command.add_subcommand("add", "Put a chord first, as if it had been viewed");
+  CLI::App& add =
+      *command.add_subcommand("add", translated("Put a chord first, as if it had been viewed"));
   const auto name = std::make_shared<Words>();
-  add.add_option("CHORD", *name, "The chord's name, in one word or several")
+  add.add_option("CHORD", *name, translated("The chord's name, in one word or several"))
       ->required()
       ->type_name("");
   add.callback([name, &action] { action = [name] { addRecentChord(*name); }; });
 
-  CLI::App& list = *command.add_subcommand("list", "List the chords, the latest one first");
+  CLI::App& list =
+      *command.add_subcommand("list", translated("List the chords, the latest one first"));
   list.callback([&action] { action = listRecentChords; });
 
-  CLI::App& clear = *command.add_subcommand("clear", "Forget them all");
+  CLI::App& clear = *command.add_subcommand("clear", translated("Forget them all"));
   clear.callback([&action] { action = [] { recentChords.clear(); }; });
 }
 

@@ -8,19 +8,20 @@
 #include "zyndle/command_error.h"
 #include "zyndle/host.h"
 #include "zyndle/rpc/rpc.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
 
-constexpr const char* description = "Answer JSON-RPC 2.0 requests, one a line";
+constexpr const char* description = message("Answer JSON-RPC 2.0 requests, one a line");
 
 constexpr const char* examples =
-    R"(Reads requests from standard input until it ends and writes one line for each
+    message(R"(Reads requests from standard input until it ends and writes one line for each
 answer. Parameters are named; diagnostics go to standard error.
 
 Example:
-  echo '{"jsonrpc":"2.0","id":1,"method":"lookUpChord","params":{"name":"Am7"}}' \
-    | zyndle rpc)";
+  echo '{"jsonrpc":"2.0","id":1,"method":"lookUpChord","params":{"name":"C"}}' |
+    zyndle rpc)");
 
 std::shared_ptr<const tonelake::Calendar> calendarOfZone(const std::string& zone) {
   return desktop::makeGregorianCalendar(zone);
@@ -37,8 +38,8 @@ void answerRequests() {
 }  // namespace
 
 void addRpcCommand(CLI::App& app, Action& action) {
-  CLI::App& command = *app.add_subcommand("rpc", description);
-  command.footer(examples);
+  CLI::App& command = *app.add_subcommand("rpc", translated(description));
+  command.footer(translated(examples));
   command.callback([&action] { action = answerRequests; });
 }
 

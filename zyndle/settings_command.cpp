@@ -14,6 +14,7 @@
 #include "zyndle/known_settings.h"
 #include "zyndle/output.h"
 #include "zyndle/shared_settings_file.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -21,9 +22,9 @@ namespace {
 using desktop::Setting;
 using desktop::SettingType;
 
-constexpr const char* description = "Read and change the settings shared with the widgets";
+constexpr const char* description = message("Read and change the settings shared with the widgets");
 
-constexpr const char* examples = R"(Settings:
+constexpr const char* examples = message(R"(Settings:
   todayChordCategory     category of the chord of the day: beginner, advanced or
                          jazz; beginner unless it is set
   left_handed            mirror diagrams: true or false; false unless it is set
@@ -34,7 +35,7 @@ Examples:
   zyndle settings list
   zyndle settings set todayChordCategory jazz
   zyndle settings set left_handed true
-  zyndle settings delete left_handed)";
+  zyndle settings delete left_handed)");
 
 constexpr std::size_t keyWidth = 22;
 constexpr std::size_t shownLength = 48;  // bytes of a value, so that a line keeps to 80 columns
@@ -50,21 +51,23 @@ const KnownSetting& readKey(const std::string& key) {
     if (setting.key == key) return setting;
     keys += (keys.empty() ? "" : ", ") + std::string(setting.key);
   }
-  refuse("there is no setting " + tonelake::quoted(key) + "; there are " + keys);
+  refuse(translated("there is no setting {0}; there are {1}", tonelake::quoted(key), keys));
 }
 
 // A value on one line; a long one, such as the app's data, only begins.
 std::string abbreviated(const std::string& value) {
   if (value.size() <= shownLength) return printable(value);
-  return fmt::format("{}... ({} bytes)", printable(value.substr(0, shownLength / 2)), value.size());
+  return translated("{0}... ({1} bytes)", printable(value.substr(0, shownLength / 2)),
+                    value.size());
 }
 
 // A value of another type than its key's counts as none everywhere, so it is told apart.
 std::string describe(const KnownSetting& known, const std::vector<Setting>& settings) {
   const auto found = std::find_if(settings.begin(), settings.end(),
                                   [&](const Setting& setting) { return setting.key == known.key; });
-  if (found == settings.end()) return "(not set)";
-  return abbreviated(found->value) + (found->type == known.type ? "" : " (wrong type, not used)");
+  if (found == settings.end()) return translated("(not set)");
+  return abbreviated(found->value) +
+         (found->type == known.type ? "" : " " + translated("(wrong type, not used)"));
 }
 
 void listSettings() {
@@ -81,7 +84,8 @@ void getSetting(const SettingsOptions& options) {
   const KnownSetting& known = readKey(options.key);
   const auto answer = openSharedSettings()->find(options.key);
   failIf(answer.problem);
-  if (!answer.value || answer.value->type != known.type) fail(options.key + " is not set");
+  if (!answer.value || answer.value->type != known.type)
+    fail(translated("{} is not set", options.key));
   writeStandardOutput(answer.value->value + '\n');
 }
 
@@ -90,12 +94,13 @@ void checkValue(const KnownSetting& known, const std::string& value) {
   switch (known.type) {
     case SettingType::text:
       if (tonelake::ChordCategory::fromRawValue(value)) return;
-      refuse(key + " can be beginner, advanced or jazz, not " + tonelake::quoted(value));
+      refuse(translated("{0} {1} is not one of {2}", key, tonelake::quoted(value),
+                        "beginner, advanced, jazz"));
     case SettingType::boolean:
       if (value == "true" || value == "false") return;
-      refuse(key + " can be true or false, not " + tonelake::quoted(value));
+      refuse(translated("{0} {1} is not one of {2}", key, tonelake::quoted(value), "true, false"));
     case SettingType::data:
-      refuse(key + " is data that the app keeps; it can be read and deleted, not set");
+      refuse(translated("{} is data that the app keeps; it can be read and deleted, not set", key));
   }
 }
 
@@ -111,30 +116,32 @@ void deleteSetting(const SettingsOptions& options) {
 }
 
 void addKey(CLI::App& command, SettingsOptions& options) {
-  command.add_option("KEY", options.key, "The name of a setting")->required()->type_name("");
+  command.add_option("KEY", options.key, translated("The name of a setting"))
+      ->required()
+      ->type_name("");
 }
 
 }  // namespace
 
 void addSettingsCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<SettingsOptions>();
-  CLI::App& command = *app.add_subcommand("settings", description);
-  command.footer(examples);
+  CLI::App& command = *app.add_subcommand("settings", translated(description));
+  command.footer(translated(examples));
   command.require_subcommand(1);
 
-  CLI::App& list = *command.add_subcommand("list", "List every setting with its value");
+  CLI::App& list = *command.add_subcommand("list", translated("List every setting with its value"));
   list.callback([&action] { action = listSettings; });
 
-  CLI::App& get = *command.add_subcommand("get", "Write the value of one setting");
+  CLI::App& get = *command.add_subcommand("get", translated("Write the value of one setting"));
   addKey(get, *options);
   get.callback([options, &action] { action = [options] { getSetting(*options); }; });
 
-  CLI::App& set = *command.add_subcommand("set", "Give a setting a value");
+  CLI::App& set = *command.add_subcommand("set", translated("Give a setting a value"));
   addKey(set, *options);
-  set.add_option("VALUE", options->value, "The new value")->required()->type_name("");
+  set.add_option("VALUE", options->value, translated("The new value"))->required()->type_name("");
   set.callback([options, &action] { action = [options] { setSetting(*options); }; });
 
-  CLI::App& remove = *command.add_subcommand("delete", "Forget the value of a setting");
+  CLI::App& remove = *command.add_subcommand("delete", translated("Forget the value of a setting"));
   addKey(remove, *options);
   remove.callback([options, &action] { action = [options] { deleteSetting(*options); }; });
 }

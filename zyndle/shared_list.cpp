@@ -6,14 +6,15 @@
 #include "zyndle/chord_name.h"
 #include "zyndle/command_error.h"
 #include "zyndle/shared_settings_file.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
 
 void failIfDamaged(const SharedList& list, const std::string& problem) {
   if (problem.empty()) return;
-  fail(std::string(list.key) + " cannot be used and stays as it is (" + problem + "); zyndle " +
-       std::string(list.command) + " clear empties it");
+  fail(translated("{0} cannot be used and stays as it is ({1}); {2} empties it", list.key, problem,
+                  "zyndle " + std::string(list.command) + " clear"));
 }
 
 }  // namespace

@@ -21,6 +21,7 @@
 #include "zyndle/output.h"
 #include "zyndle/output_options.h"
 #include "zyndle/text_layout.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -30,10 +31,10 @@ using tonelake::ChordCategory;
 using tonelake::ChordPosition;
 using tonelake::Instant;
 
-constexpr const char* description = "Show the chord of the day";
+constexpr const char* description = message("Show the chord of the day");
 
 constexpr const char* examples =
-    R"(Every day of the year has a chord in each of three categories, the same every
+    message(R"(Every day of the year has a chord in each of three categories, the same every
 year. The day is the one in your time zone (TZ is honoured).
 
 Examples:
@@ -42,7 +43,7 @@ Examples:
   zyndle today --date 2024-02-29        the chord of another day
   zyndle today --svg chord.svg          the diagram as a drawing as well
   zyndle settings set todayChordCategory advanced
-                                        another category from now on)";
+                                        another category from now on)");
 
 struct TodayOptions {
   std::optional<std::string> category;
@@ -62,9 +63,9 @@ std::optional<CalendarDay> readDate(const TodayOptions& options) {
   if (!options.date) return std::nullopt;
   const std::optional<CalendarDay> day = parseDay(*options.date);
   if (!day) {
-    refuse("--date " + tonelake::quoted(*options.date) +
-           (hasDayForm(*options.date) ? " is not a day of the calendar"
-                                      : " is not of the form YYYY-MM-DD"));
+    refuse(translated(hasDayForm(*options.date) ? message("{0} {1} is not a day of the calendar")
+                                                : message("{0} {1} is not of the form YYYY-MM-DD"),
+                      "--date", tonelake::quoted(*options.date)));
   }
   return day;
 }
@@ -73,8 +74,8 @@ std::optional<ChordCategory> readCategory(const TodayOptions& options) {
   if (!options.category) return std::nullopt;
   const std::optional<ChordCategory> category = ChordCategory::fromRawValue(*options.category);
   if (!category) {
-    refuse("--category " + tonelake::quoted(*options.category) +
-           " is not one of beginner, advanced, jazz");
+    refuse(translated("{0} {1} is not one of {2}", "--category",
+                      tonelake::quoted(*options.category), "beginner, advanced, jazz"));
   }
   return category;
 }
@@ -83,7 +84,8 @@ Instant chosenMoment(const Calendar& calendar, const std::optional<CalendarDay>&
   if (!day) return calendar.now();
   const std::optional<Instant> moment = momentOf(calendar, *day);
   if (!moment) {
-    refuse("there was no " + writeDay(*day) + " in the time zone " + calendar.timeZone());
+    refuse(
+        translated("there was no {0} in the time zone {1}", writeDay(*day), calendar.timeZone()));
   }
   return *moment;
 }
@@ -92,7 +94,7 @@ DailyChord findDailyChord(const Calendar& calendar, Instant moment, ChordCategor
   const std::optional<CalendarDay> day = dayOf(calendar, moment);
   const std::optional<tonelake::Chord> chord =
       tonelake::TodayChordLibrary().chordOfTheDay(moment, category);
-  if (!day || !chord) fail("the calendar cannot tell which day it is");
+  if (!day || !chord) fail(translated("the calendar cannot tell which day it is"));
   return {*day, category, makeChordSheetForToday(*chord),
           tonelake::Chords::getChordPositions(*chord, 1, tonelake::Tuning::standard)};
 }
@@ -112,13 +114,16 @@ std::string jsonOf(const DailyChord& daily) {
 }
 
 std::string textOf(const DailyChord& daily, const DrawingStyle& style) {
-  std::string text = "Chord of the day " + writeDay(daily.day) + ", " +
-                     std::string(daily.category.rawValue()) + "\n\n";
+  // TRANSLATORS: {0} is a date, {1} a category: "Chord of the day 2024-02-29, Jazz".
+  std::string text = translated("Chord of the day {0}, {1}", writeDay(daily.day),
+                                daily.category.localizedTitle()) +
+                     "\n\n";
   text += emphasized(daily.sheet.title, style) + '\n';
-  text += labelledRow("Short", {daily.sheet.shortTitle});
-  text += labelledRow("Notes", daily.sheet.notes);
-  text += labelledRow("Intervals", daily.sheet.intervals) + '\n';
-  if (daily.positions.empty()) return text + "No shape is known for it.\n";
+  // TRANSLATORS: the label of a chord's short name: "Short  Am7".
+  text += labelledRow(translated("Short"), {daily.sheet.shortTitle});
+  text += labelledRow(translated("Notes"), daily.sheet.notes);
+  text += labelledRow(translated("Intervals"), daily.sheet.intervals) + '\n';
+  if (daily.positions.empty()) return text + translated("No shape is known for it.") + '\n';
   text += drawInTerminal(daily.sheet.chord, daily.positions, tonelake::Tuning::standard, style);
   return text + '\n' + listInstructions(daily.positions.front());
 }
@@ -143,11 +148,14 @@ void showToday(const TodayOptions& options) {
 
 void addTodayCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<TodayOptions>();
-  CLI::App& command = *app.add_subcommand("today", description);
-  command.footer(examples);
-  command.add_option("--category", options->category, "beginner, advanced or jazz; else as set")
+  CLI::App& command = *app.add_subcommand("today", translated(description));
+  command.footer(translated(examples));
+  command
+      .add_option("--category", options->category,
+                  translated("beginner, advanced or jazz; else as set"))
       ->type_name("CATEGORY");
-  command.add_option("--date", options->date, "A day other than today")->type_name("YYYY-MM-DD");
+  command.add_option("--date", options->date, translated("A day other than today"))
+      ->type_name("YYYY-MM-DD");
   addOutputOptions(command, options->output);
   command.callback([options, &action] { action = [options] { showToday(*options); }; });
 }

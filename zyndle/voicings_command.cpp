@@ -18,6 +18,7 @@
 #include "zyndle/number_option.h"
 #include "zyndle/output_options.h"
 #include "zyndle/text_layout.h"
+#include "zyndle/translation.h"
 #include "zyndle/voicing_record.h"
 
 namespace zyndle {
@@ -28,21 +29,21 @@ using tonelake::WholeNumber;
 using tonelake::Voicings::Voicing;
 using tonelake::Voicings::VoicingOptions;
 
-constexpr const char* description = "Show every way to play a chord, the easiest first";
+constexpr const char* description = message("Show every way to play a chord, the easiest first");
 
 constexpr const char* introduction =
-    R"(Unlike the shapes of zyndle chord, these may have any note of the chord in the
+    message(R"(Unlike the shapes of zyndle chord, these may have any note of the chord in the
 bass and leave out strings inside: C/E, Bm7/A, E5.
 
-)";
+)");
 
-constexpr const char* examples = R"(
+constexpr const char* examples = message(R"(
 Examples:
   zyndle voicings C/E
   zyndle voicings F#m7b5 --limit 20 --max-fret 12
   zyndle voicings D --tuning DADGAD
   zyndle voicings Eb --capo 3
-  zyndle voicings G13 --inner-mutes 2 --json)";
+  zyndle voicings G13 --inner-mutes 2 --json)");
 
 constexpr WholeNumber defaultLimit = 8;
 
@@ -93,13 +94,15 @@ std::string jsonOf(const ShownVoicings& shown) {
 std::string textOf(const ShownVoicings& shown, const std::vector<ChordPosition>& positions,
                    const DrawingStyle& style) {
   std::string text = emphasized(shown.sheet.title, style) + '\n';
-  text += labelledRow("Notes", shown.sheet.notes);
+  text += labelledRow(translated("Notes"), shown.sheet.notes);
   text += instrumentRows(shown.instrument) + '\n';
-  if (positions.empty()) return text + "There is no way to play it within these bounds.\n";
+  if (positions.empty())
+    return text + translated("There is no way to play it within these bounds.") + '\n';
   text += drawInTerminal(shown.sheet.chord, positions, soundingStrings(shown.instrument), style);
   if (shown.count == positions.size()) return text;
-  return text + "\n" + std::to_string(positions.size()) + " of " + std::to_string(shown.count) +
-         " voicings; --limit shows more.\n";
+  return text + "\n" +
+         translated("{0} of {1} voicings; --limit shows more.", positions.size(), shown.count) +
+         "\n";
 }
 
 void showVoicings(const CommandOptions& options) {
@@ -126,22 +129,23 @@ void showVoicings(const CommandOptions& options) {
 
 void addVoicingsCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<CommandOptions>();
-  CLI::App& command = *app.add_subcommand("voicings", description);
-  command.footer(std::string(introduction) + instrumentHelp + examples);
-  command.add_option("NAME", options->name, "The chord's name, in one word or several")
+  CLI::App& command = *app.add_subcommand("voicings", translated(description));
+  command.footer(translated(introduction) + translated(instrumentHelp) + translated(examples));
+  command.add_option("NAME", options->name, translated("The chord's name, in one word or several"))
       ->required()
       ->type_name("");
   addInstrumentOptions(command, options->instrument);
   const auto addNumber = [&command](const char* name, std::optional<std::string>& number,
                                     const char* meaning) {
-    command.add_option(name, number, meaning)->type_name("N");
+    command.add_option(name, number, translated(meaning))->type_name("N");
   };
-  addNumber("--limit", options->limit, "Voicings to show, at most (8)");
-  addNumber("--max-fret", options->highestFret, "The highest fret to press (15)");
-  addNumber("--inner-mutes", options->innerMutes, "Strings that may be left out inside (1)");
+  addNumber("--limit", options->limit, message("Voicings to show, at most (8)"));
+  addNumber("--max-fret", options->highestFret, message("The highest fret to press (15)"));
+  addNumber("--inner-mutes", options->innerMutes,
+            message("Strings that may be left out inside (1)"));
   command
       .add_flag("--high-open-strings", options->openStringsAboveFifthFret,
-                "Let open strings ring above the fifth fret")
+                translated("Let open strings ring above the fifth fret"))
       ->disable_flag_override();
   addOutputOptions(command, options->output);
   command.callback([options, &action] { action = [options] { showVoicings(*options); }; });

@@ -19,6 +19,7 @@
 #include "zyndle/command_error.h"
 #include "zyndle/host.h"
 #include "zyndle/output.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -27,10 +28,10 @@ using todaychord::Scene;
 using todaychord::WidgetDescription;
 using todaychord::WidgetFamily;
 
-constexpr const char* description = "Draw a widget as it is now";
+constexpr const char* description = message("Draw a widget as it is now");
 
 constexpr const char* examples =
-    R"(Widgets: chord, launcher, recent, collections, or their kinds as hosts know
+    message(R"(Widgets: chord, launcher, recent, collections, or their kinds as hosts know
 them: ZyndleChordWidget and so on.
 
 Families of the chord of the day: small, medium, large, extraLarge,
@@ -41,7 +42,7 @@ Examples:
   zyndle widget chord > today.svg       today's chord, small
   zyndle widget chord --family medium -o today.svg
   zyndle widget recent -o recent.svg    what you have looked at last
-  zyndle widget launcher --format json  the shapes, texts and links themselves)";
+  zyndle widget launcher --format json  the shapes, texts and links themselves)");
 
 struct WidgetOptions {
   std::string kind;
@@ -95,7 +96,8 @@ const WidgetDescription& readWidget(const std::string& name) {
   }
   const WidgetDescription* widget = todaychord::TodayChordBundle::findWidget(kind);
   if (widget == nullptr) {
-    refuse("there is no widget " + tonelake::quoted(name) + "; there are " + listNames(shortNames));
+    refuse(translated("there is no widget {0}; there are {1}", tonelake::quoted(name),
+                      listNames(shortNames)));
   }
   return *widget;
 }
@@ -116,22 +118,24 @@ WidgetFamily readFamily(const WidgetOptions& options, const WidgetDescription& w
   }
   std::vector<std::string> names;
   for (const WidgetFamily each : families) names.emplace_back(each.rawValue());
-  refuse("--family " + tonelake::quoted(*options.family) + " is not one of " +
-         tonelake::join(names, ", "));
+  refuse(translated("{0} {1} is not one of {2}", "--family", tonelake::quoted(*options.family),
+                    tonelake::join(names, ", ")));
 }
 
 const Format& readFormat(const std::string& name) {
   for (const Format& format : formats) {
     if (name == format.name) return format;
   }
-  refuse("--format " + tonelake::quoted(name) + " is not one of " + listNames(formats));
+  refuse(translated("{0} {1} is not one of {2}", "--format", tonelake::quoted(name),
+                    listNames(formats)));
 }
 
 void showWidget(const WidgetOptions& options) {
   const WidgetDescription& widget = readWidget(options.kind);
   const WidgetFamily family = readFamily(options, widget);
   const Format& format = readFormat(options.format);
-  if (options.file.empty()) refuse("-o needs the name of a file, or - for standard output");
+  if (options.file.empty())
+    refuse(translated("{} needs the name of a file, or - for standard output", "-o"));
   installHost(true);
   const todaychord::ViewSettings settings{
       todaychord::SharedSettings(tonelake::processPlatform().sharedSettings).isLeftHanded()};
@@ -145,13 +149,16 @@ void showWidget(const WidgetOptions& options) {
 
 void addWidgetCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<WidgetOptions>();
-  CLI::App& command = *app.add_subcommand("widget", description);
-  command.footer(examples);
-  command.add_option("KIND", options->kind, "Which widget")->required()->type_name("");
-  command.add_option("--family", options->family, "Its size; else the first that it offers")
+  CLI::App& command = *app.add_subcommand("widget", translated(description));
+  command.footer(translated(examples));
+  command.add_option("KIND", options->kind, translated("Which widget"))->required()->type_name("");
+  command
+      .add_option("--family", options->family,
+                  translated("Its size; else the first that it offers"))
       ->type_name("FAMILY");
-  command.add_option("--format", options->format, "svg or json; else svg")->type_name("FORMAT");
-  command.add_option("-o", options->file, "Write to a file, not to standard output")
+  command.add_option("--format", options->format, translated("svg or json; else svg"))
+      ->type_name("FORMAT");
+  command.add_option("-o", options->file, translated("Write to a file, not to standard output"))
       ->type_name("FILE");
   command.callback([options, &action] { action = [options] { showWidget(*options); }; });
 }

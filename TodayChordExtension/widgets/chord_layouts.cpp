@@ -25,7 +25,7 @@ class Column {
   }
 
   void addLabel(double baseline) {
-    addText(inCapitals("Chord of the Day"), {boldFont, widgetMetrics::footnote},
+    addText(inCapitals(localized("Chord of the Day")), {boldFont, widgetMetrics::footnote},
             widgetPalette::accent, baseline);
   }
 
@@ -67,15 +67,15 @@ SceneItems drawFacts(const DayChord& chord) {
   Column facts(layout::columnX + layout::factX, layout::columnWidth - layout::factX,
                TextAnchor::start);
   double baseline = layout::firstFactBaseline;
-  const auto add = [&](const char* name, const std::string& fact) {
+  const auto add = [&](const std::string& name, const std::string& fact) {
     names.addText(name, {regularFont, layout::factFont}, widgetPalette::accent, baseline);
     facts.addText(fact, {regularFont, layout::factFont}, widgetPalette::title, baseline);
     baseline += layout::factPitch;
   };
-  add("Notes", widgetTones(chord.chord));
+  add(localized("Notes"), widgetTones(chord.chord));
   if (chord.diagram) {
-    add("Frets", listStrings(chord.diagram->position, 0, "x"));
-    add("Fingers", listStrings(chord.diagram->fingering, 1, "–"));
+    add(localized("Frets"), listStrings(chord.diagram->position, 0, "x"));
+    add(localized("Fingers"), listStrings(chord.diagram->fingering, 1, "–"));
   }
   append(names.items, facts.items);
   return names.items;

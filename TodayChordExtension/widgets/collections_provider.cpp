@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "TodayChordExtension/widgets/shared_settings.h"
+#include "TodayChordExtension/widgets/widget_text.h"
 #include "Tonelake/content/curated_chord_lists.h"
 
 namespace todaychord {
@@ -23,7 +24,7 @@ constexpr ChordListCategory packs[] = {ChordListCategory::undergroundMusic,
 WidgetCollectionItem itemOf(const WidgetChordCollection& collection) {
   return {"user-" + collection.id,
           collection.title,
-          "Your collection",
+          localized("Your collection"),
           collection.imageName,
           "square.stack.3d.up.fill",
           collection.chords,
@@ -34,7 +35,7 @@ WidgetCollectionItem itemOf(ChordListCategory category) {
   const tonelake::ChordList& list = tonelake::curatedChordLists().at(category);
   return {"curated-" + std::string(category.rawValue()),
           list.title,
-          "Curated pack",
+          localized("Curated pack"),
           list.imageName,
           std::nullopt,
           list.chords,

@@ -17,8 +17,10 @@ namespace {
 namespace layout = widgetMetrics::collections;
 namespace tall = widgetMetrics::tall;
 
+using tonelake::message;
+
 constexpr const char* stackIcon = "music.note.square.stack.fill";
-constexpr const char* allRowText = "View All Collections";
+constexpr const char* allRowText = message("View All Collections");
 
 // An odd number takes one place more, since its first card takes two.
 static_assert((CollectionsEntry::capacity + 1) / tall::columns == std::size_t{layout::rows});
@@ -49,7 +51,7 @@ SceneItems drawNoCollections(const Rectangle& frame) {
       {regularFont, layout::allFont}, widgetPalette::subtitle, TextAnchor::middle};
   const Point baseline{frame.x + frame.width / 2,
                        icon.frame.y + icon.frame.height + layout::emptyTextBelow};
-  return {{icon}, {fitLine("No collections yet", style, baseline, frame.width)}};
+  return {{icon}, {fitLine(localized("No collections yet"), style, baseline, frame.width)}};
 }
 
 SceneItems drawAllRow() {
@@ -59,11 +61,13 @@ SceneItems drawAllRow() {
   const Point baseline{frame.x + tall::cardPadding,
                        middleBaseline(frame.y, frame.height, layout::allFont)};
   const double chevronX = frame.x + frame.width - tall::cardPadding - layout::chevron;
-  items.push_back({fitLine(allRowText, {{regularFont, layout::allFont}, widgetPalette::heading},
-                           baseline, chevronX - baseline.x)});
+  items.push_back(
+      {fitLine(localized(allRowText), {{regularFont, layout::allFont}, widgetPalette::heading},
+               baseline, chevronX - baseline.x)});
   items.push_back({drawCentred("chevron.right", {chevronX, frame.y, layout::chevron, frame.height},
                                layout::chevron, widgetPalette::accent)});
-  items.push_back({LinkArea{frame, namedDestination(collectionsDestination), allRowText}});
+  items.push_back(
+      {LinkArea{frame, namedDestination(collectionsDestination), localized(allRowText)}});
   return items;
 }
 
@@ -106,7 +110,8 @@ SceneItems draw(const CollectionGrid& grid, const Rectangle& frame) {
 Scene drawCollectionsWidget(const CollectionsEntry& entry) {
   const auto size = widgetMetrics::sizeOf(WidgetFamily::extraLargePortrait);
   SceneItems items = draw(ExtraLargeWidgetBackground{});
-  append(items, draw(WidgetSectionTitle{"Curated Chord Packs", "Yours first, then ours"},
+  append(items, draw(WidgetSectionTitle{localized("Curated Chord Packs"),
+                                        localized("Yours first, then ours")},
                      {tall::margin, tall::margin}, tall::width));
   const double top =
       tall::margin + widgetMetrics::sectionTitle::height + widgetMetrics::sectionTitle::gapBelow;

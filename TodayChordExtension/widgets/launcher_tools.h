@@ -3,10 +3,12 @@
 #include <array>
 #include <string_view>
 
+#include "Tonelake/platform/string_table.h"
+
 namespace todaychord {
 
-inline constexpr std::string_view launcherChordSection = "Today's Chord";
-inline constexpr std::string_view launcherToolsSection = "Essential Tools";
+inline constexpr const char* launcherChordSection = tonelake::message("Today's Chord");
+inline constexpr const char* launcherToolsSection = tonelake::message("Essential Tools");
 
 /// A tool of the app that the launcher opens.
 struct LauncherTool {
@@ -19,11 +21,11 @@ struct LauncherTool {
 // In the order in which they are shown.
 // clang-format off
 inline constexpr std::array<LauncherTool, 4> launcherTools{{
-    // title           destination             image            system icon
-    {"Tuner",          "tuner",                "diapason",       ""},
-    {"Metronome",      "metronome",            "metronome",      ""},
-    {"Reverse Lookup", "reverse-chord-finder", "reverse-lookup", ""},
-    {"Scan Song",      "scan-song",            "",               "doc.text.viewfinder"},
+    // title                             destination             image             system icon
+    {tonelake::message("Tuner"),          "tuner",                "diapason",       ""},
+    {tonelake::message("Metronome"),      "metronome",            "metronome",      ""},
+    {tonelake::message("Reverse Lookup"), "reverse-chord-finder", "reverse-lookup", ""},
+    {tonelake::message("Scan Song"),      "scan-song",            "",               "doc.text.viewfinder"},
 }};
 // clang-format on
 

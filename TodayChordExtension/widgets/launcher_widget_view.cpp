@@ -23,7 +23,7 @@ std::optional<std::string> nameOrNothing(std::string_view name) {
 }
 
 ToolLauncherCard cardOf(const LauncherTool& tool, const Color& tint) {
-  return {std::string(tool.title), nameOrNothing(tool.image), nameOrNothing(tool.systemImage), tint,
+  return {localized(tool.title), nameOrNothing(tool.image), nameOrNothing(tool.systemImage), tint,
           namedDestination(tool.destination)};
 }
 
@@ -47,9 +47,9 @@ SceneItems drawTexts(const TodayChordLauncherCard& card, const Rectangle& frame)
 
 // From `y` on: the section's title and, below it, the four tools down to the lower edge.
 SceneItems drawTools(double y) {
-  SceneItems items =
-      draw(WidgetSectionTitle{std::string(launcherToolsSection), "Everything for your practice"},
-           {tall::margin, y}, tall::width);
+  SceneItems items = draw(WidgetSectionTitle{localized(launcherToolsSection),
+                                             localized("Everything for your practice")},
+                          {tall::margin, y}, tall::width);
   const double top =
       y + widgetMetrics::sectionTitle::height + widgetMetrics::sectionTitle::gapBelow;
   const Rectangle grid{tall::margin, top, tall::width, tall::bottom - top};
@@ -99,8 +99,9 @@ Scene drawLauncherWidget(const LauncherEntry& entry, const ViewSettings& setting
   const auto size = widgetMetrics::sizeOf(WidgetFamily::extraLargePortrait);
   SceneItems items = draw(ExtraLargeWidgetBackground{});
   double y = tall::margin;
-  append(items, draw(WidgetSectionTitle{std::string(launcherChordSection), "A new one every day"},
-                     {tall::margin, y}, tall::width));
+  append(items,
+         draw(WidgetSectionTitle{localized(launcherChordSection), localized("A new one every day")},
+              {tall::margin, y}, tall::width));
   y += widgetMetrics::sectionTitle::height + widgetMetrics::sectionTitle::gapBelow;
   const Rectangle card{tall::margin, y, tall::width, layout::chordCardHeight};
   append(items, draw(TodayChordLauncherCard{entry.chord, entry.category}, card, settings));

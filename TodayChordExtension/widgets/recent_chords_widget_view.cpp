@@ -18,7 +18,7 @@ namespace layout = widgetMetrics::recent;
 namespace tall = widgetMetrics::tall;
 
 constexpr WholeNumber titleLength = 12;
-constexpr const char* widgetTitleText = "Recently Viewed Chords";
+constexpr const char* widgetTitleText = tonelake::message("Recently Viewed Chords");
 
 static_assert(RecentChordsEntry::capacity == std::size_t{layout::rows * tall::columns});
 
@@ -28,7 +28,7 @@ SceneItems drawSearchButton() {
   const Rectangle frame{tall::margin + tall::width - side, tall::margin, side, side};
   return {{drawField(frame, side / 2, widgetPalette::quietButton)},
           {drawCentred("magnifyingglass", frame, layout::searchIcon, widgetPalette::heading)},
-          {LinkArea{frame, namedDestination(searchDestination), "Search"}}};
+          {LinkArea{frame, namedDestination(searchDestination), localized("Search")}}};
 }
 
 }  // namespace
@@ -51,14 +51,16 @@ SceneItems draw(const WidgetSmallChordCell& cell, const Rectangle& frame,
     items.push_back({drawCentred(noChordIcon, frame, layout::icon, widgetPalette::quietIcon)});
   }
   const std::string spoken = widgetTitle(cell.chord, spokenTitleLength);
-  items.push_back({LinkArea{frame, chordLink(cell.chord), spoken.empty() ? "Chord" : spoken}});
+  items.push_back(
+      {LinkArea{frame, chordLink(cell.chord), spoken.empty() ? localized("Chord") : spoken}});
   return items;
 }
 
 Scene drawRecentChordsWidget(const RecentChordsEntry& entry, const ViewSettings& settings) {
   const auto size = widgetMetrics::sizeOf(WidgetFamily::extraLargePortrait);
   SceneItems items = draw(ExtraLargeWidgetBackground{});
-  append(items, draw(WidgetSectionTitle{widgetTitleText, "Pick up where you left off"},
+  append(items, draw(WidgetSectionTitle{localized(widgetTitleText),
+                                        localized("Pick up where you left off")},
                      {tall::margin, tall::margin}, tall::width - layout::searchButton - tall::gap));
   append(items, drawSearchButton());
   const double top =
@@ -70,7 +72,7 @@ Scene drawRecentChordsWidget(const RecentChordsEntry& entry, const ViewSettings&
         gridCell(grid, tall::columns, layout::rows, tall::gap, static_cast<int>(i));
     append(items, draw(WidgetSmallChordCell{entry.chords[i]}, frame, settings));
   }
-  return {size.width, size.height, widgetTitleText, "", std::move(items)};
+  return {size.width, size.height, localized(widgetTitleText), "", std::move(items)};
 }
 
 }  // namespace todaychord

@@ -3,6 +3,7 @@
 #include "TodayChordExtension/diagram/diagram_scene.h"
 #include "TodayChordExtension/diagram/scene_placement.h"
 #include "TodayChordExtension/widgets/widget_metrics.h"
+#include "TodayChordExtension/widgets/widget_text.h"
 #include "Tonelake/chords/chord_naming.h"
 #include "Tonelake/chords/chord_spelling.h"
 #include "Tonelake/fingering/chord_positions.h"
@@ -28,7 +29,8 @@ std::string widgetTones(const std::optional<Chord>& chord) {
 
 std::string chordOfTheDayLabel(const std::optional<Chord>& chord) {
   const std::string title = widgetTitle(chord, spokenTitleLength);
-  return "Chord of the Day" + (title.empty() ? "" : ", " + title) + ". Learn More";
+  return localized("Chord of the Day") + (title.empty() ? "" : ", " + title) + ". " +
+         localized("Learn More");
 }
 
 std::optional<ChordView> widgetDiagram(const std::optional<Chord>& chord,

@@ -69,7 +69,7 @@ SceneItems drawLearnMore(Point corner) {
   const Point baseline{frame.x + frame.width / 2,
                        middleBaseline(frame.y, frame.height, style.font.size)};
   return {{drawField(frame, button::height / 2, widgetPalette::button)},
-          {fitLine("Learn More", style, baseline, button::width - button::height / 2)}};
+          {fitLine(localized("Learn More"), style, baseline, button::width - button::height / 2)}};
 }
 
 ImageItem drawCentred(const std::string& icon, const Rectangle& frame, double side,

@@ -6,6 +6,7 @@
 #include "TodayChordExtension/diagram/text_width.h"
 #include "TodayChordExtension/widgets/widget_metrics.h"
 #include "Tonelake/foundation/text.h"
+#include "Tonelake/platform/platform.h"
 
 namespace todaychord {
 namespace {
@@ -29,6 +30,10 @@ std::string cut(const std::string& text, double fontSize, double width) {
 
 }  // namespace
 
+std::string localized(std::string_view english) {
+  return tonelake::processPlatform().strings->localized(english);
+}
+
 TextItem fitLine(const std::string& text, const TextStyle& style, Point baseline, double width) {
   const double smallest = style.font.size * widgetMetrics::smallestTextScale;
   const double size = std::max(smallest, fittingFontSize(text, style.font.size, width));
@@ -45,7 +50,14 @@ double middleBaseline(double y, double height, double fontSize) {
 }
 
 std::string inCapitals(std::string text) {
-  for (char& letter : text) letter = tonelake::uppercase(letter);
+  constexpr char latin1 = '\xC3';  // begins U+00C0 to U+00FF, the capitals before the small letters
+  char before = 0;
+  for (char& letter : text) {
+    const bool isSmall = letter >= '\xA0' && letter <= '\xBE' && letter != '\xB7';  // no ÷
+    if (before == latin1 && isSmall) letter = static_cast<char>(letter - 0x20);
+    before = letter;
+    letter = tonelake::uppercase(letter);
+  }
   return text;
 }
 

@@ -1,13 +1,19 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "TodayChordExtension/diagram/scene.h"
+#include "Tonelake/platform/string_table.h"
 
 namespace todaychord {
 
 inline constexpr const char* regularFont = "Space Grotesk Medium";
 inline constexpr const char* boldFont = "SpaceGrotesk-SemiBold";
+
+/// A text of the widgets, given in English, in the user's language. tools/messages.sh finds the
+/// texts by this name.
+std::string localized(std::string_view english);
 
 /// Where and how a line of text stands.
 struct TextStyle {
@@ -23,7 +29,7 @@ TextItem fitLine(const std::string& text, const TextStyle& style, Point baseline
 /// The baseline at which capitals of a font size stand in the middle of [y, y + height].
 double middleBaseline(double y, double height, double fontSize);
 
-/// "LEARN MORE" for "Learn More"; letters outside ASCII stay as they are.
+/// "LEARN MORE" for "Learn More", "DÍA" for "día"; letters beyond Latin-1 stay as they are.
 std::string inCapitals(std::string text);
 
 }  // namespace todaychord

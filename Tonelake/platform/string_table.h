@@ -16,6 +16,11 @@ class StringTable {
   virtual std::string localized(std::string_view key) const = 0;
 };
 
+/// Marks a text of the sources for tools/messages.sh, which lists those that have translations.
+constexpr const char* message(const char* english) noexcept {
+  return english;
+}
+
 /// The texts in English, without any catalogue file.
 std::shared_ptr<const StringTable> makeEnglishStringTable();
 

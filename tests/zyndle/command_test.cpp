@@ -47,7 +47,7 @@ TEST_F(Command, AnswersWithStatusAndText) {
       {{"recent", "add", "--help"}, "zyndle recent add F#m7b5"},
       {{"collections", "add", "--help"}, "zyndle collections add \"Warm-up\" C Am F G7"},
       {{"today"}, "Chord of the day 2"},
-      {{"today", "--category", "jazz", "--date", "2024-02-29"}, "2024-02-29, jazz"},
+      {{"today", "--category", "jazz", "--date", "2024-02-29"}, "2024-02-29, Jazz"},
       {{"chord", "C"}, "Place the 2nd finger on the 2nd fret of the 4th string"},
       {{"chord", "C", "major", "7th"}, "C, E, G, B"},
       {{"chord", "F"}, "1━━━"},
@@ -132,8 +132,8 @@ TEST_F(Command, RefusesBadArgumentsInOneLine) {
       {{"settings", "forget"}, "no command \"forget\""},
       {{"settings", "get", "color"}, "no setting \"color\"; there are todayChordCategory"},
       {{"settings", "set", "left_handed"}, "VALUE is missing"},
-      {{"settings", "set", "left_handed", "yes"}, "true or false, not \"yes\""},
-      {{"settings", "set", "todayChordCategory", "Jazz"}, "beginner, advanced or jazz"},
+      {{"settings", "set", "left_handed", "yes"}, "\"yes\" is not one of true, false"},
+      {{"settings", "set", "todayChordCategory", "Jazz"}, "beginner, advanced, jazz"},
       {{"settings", "set", "chordCollections", "[]"}, "data that the app keeps"},
       {{"settings", "delete", "color"}, "no setting \"color\""},
       {{"recent", "add"}, "CHORD is missing"},
@@ -143,7 +143,7 @@ TEST_F(Command, RefusesBadArgumentsInOneLine) {
       {{"collections", "add", "Warm-up", "C", "H"}, "\"H\""},
       {{"collections", "add", "", "C"}, "TITLE is empty"},
       {{"collections", "add", " \n", "C"}, "TITLE is empty"},
-      {{"collections", "add", "\xC3(", "C"}, "is not UTF-8"},
+      {{"collections", "add", "\xC3(", "C"}, "is not valid UTF-8"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(tonelake::join(row.arguments, " "));
@@ -214,7 +214,8 @@ TEST_F(Command, JsonHoldsWhatTheTextTells) {
       json({"chord", "c/g", "--json", "--limit", "2", "--tuning", "DADGAD", "--capo", "2"});
   EXPECT_THAT(keysOf(chord),
               testing::ElementsAre("chord", "title", "shortTitle", "notes", "intervals", "names",
-                                   "tuning", "capo", "positions", "instructions"));
+                                   "tuning", "capo", "positions", "instructions", "character",
+                                   "genre", "description", "jazzDescription"));
   EXPECT_EQ(chord["capo"], 2);
   EXPECT_EQ(chord["title"], "C major/G");
   EXPECT_EQ(chord["tuning"], Value({"D", "A", "D", "G", "A", "D"}));

@@ -2,6 +2,7 @@
 #include "Tonelake/content/chord_progression_json.h"
 #include "Tonelake/content/chord_progressions.h"
 #include "Tonelake/content/chord_samples.h"
+#include "Tonelake/content/chord_texts.h"
 #include "Tonelake/content/curated_chord_lists.h"
 #include "zyndle/rpc/encoding.h"
 #include "zyndle/rpc/method_table.h"
@@ -21,6 +22,18 @@ json::Value encodeChordList(const tonelake::ChordList& list) {
              return json::Value{{"chord", tonelake::encodeChord(preferred.first)},
                                 {"frets", preferred.second}};
            })}};
+}
+
+json::Value chordTexts(const json::Node& parameters, MethodContext&) {
+  const std::string chordType = parameters.member("chordType").text();
+  const auto textIn = [&](const tonelake::ChordTexts& texts) {
+    const auto found = texts.find(chordType);
+    return found == texts.end() ? json::Value(nullptr) : json::Value(found->second);
+  };
+  return {{"character", textIn(tonelake::chordCharacterData())},
+          {"genre", textIn(tonelake::chordGenreData())},
+          {"description", textIn(tonelake::chordDescriptionData())},
+          {"jazzDescription", textIn(tonelake::jazzChordDescriptionData())}};
 }
 
 json::Value curatedChordLists(const json::Node&, MethodContext&) {
@@ -67,6 +80,7 @@ json::Value ofProgression(const json::Node& parameters, MethodContext&) {
 }
 
 constexpr MethodRow rows[] = {
+    {"chordTexts", chordTexts},
     {"curatedChordLists", curatedChordLists},
     {"getChordSampleSet", getChordSampleSet},
     {"getChordSampleSetForChordType", getChordSampleSetForChordType},

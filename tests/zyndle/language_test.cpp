@@ -1,0 +1,108 @@
+// Runs the built program as users of several languages would.
+
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "Desktop/languages.h"
+#include "Tonelake/foundation/text.h"
+#include "tests/zyndle/command_runner.h"
+#include "zyndle/text_columns.h"
+#include "zyndle/text_layout.h"
+
+namespace zyndle {
+namespace {
+
+using testing::HasSubstr;
+using Words = std::vector<std::string>;
+
+class Language : public testing::Test, protected CommandRunner {
+ protected:
+  tonelake::testing::ProgramResult runIn(const Words& environment, Words arguments) const {
+    arguments.insert(arguments.begin(), ZYNDLE_PROGRAM);
+    Words variables = environment;
+    variables.push_back("XDG_DATA_HOME=" + folder_.path());
+    return tonelake::testing::runProgram({arguments, variables, "", ""});
+  }
+};
+
+TEST_F(Language, IsTheOneThatTheUserChose) {
+  constexpr const char* english = "major third (E)";
+  constexpr const char* german = "großer Terz (E)";
+  constexpr const char* spanish = "la tercera mayor (E)";
+  struct Row {
+    Words environment;
+    Words arguments;
+    const char* output;
+  };
+  const Row rows[] = {
+      {{}, {"chord", "C"}, english},
+      {{"LANGUAGE=de"}, {"chord", "C"}, german},
+      {{"LANGUAGE=xx:es:de"}, {"chord", "C"}, spanish},
+      {{"LANGUAGE=en:de"}, {"chord", "C"}, english},
+      {{"LC_ALL=de_AT.UTF-8", "LANG=es_ES.UTF-8"}, {"chord", "C"}, german},
+      {{"LC_MESSAGES=C", "LANG=de_DE.UTF-8"}, {"chord", "C"}, english},
+      {{"LANGUAGE=de"}, {"--lang", "en", "chord", "C"}, english},
+      {{"LANGUAGE=de"}, {"chord", "C", "--lang=es_MX"}, spanish},
+      {{}, {"--lang", "de", "chord", "--help"}, "Optionen:"},
+      {{}, {"--lang", "es", "--help"}, "zyndle [OPCIONES] ORDEN"},
+      {{}, {"--lang", "de", "pack", "metal"}, "Riff drohen soll"},
+      {{}, {"--lang", "de", "widget", "launcher"}, "Stimmgerät"},
+  };
+  for (const Row& row : rows) {
+    const auto result = runIn(row.environment, row.arguments);
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_THAT(result.output, HasSubstr(row.output)) << tonelake::join(row.arguments, " ");
+  }
+}
+
+TEST_F(Language, OfProblemsIsTheSame) {
+  const std::pair<Words, const char*> rows[] = {
+      {{"--lang"}, "--lang needs one value"},
+      {{"chord", "C", "--lang", "klingon"}, "--lang \"klingon\" is not one of en, de"},
+      {{"--lang", "de", "chord", "C", "--limit", "0"}, "ist keine ganze Zahl ab 1"},
+      {{"--lang", "de", "chord", "Hm7"}, "kein Akkord heißt \"Hm7\""},
+  };
+  for (const auto& [arguments, problem] : rows) {
+    const auto result = runIn({}, arguments);
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.errors, HasSubstr(problem));
+    EXPECT_EQ(countLines(result.errors), 1U);
+  }
+}
+
+TEST_F(Language, KeepsToThePage) {
+  const auto english = runIn({}, {"--help"});
+  for (const std::string& language : desktop::knownLanguages()) {
+    const Words environment{"LANGUAGE=" + language};
+    std::vector<Words> pages{{"--help"}, {"chord", "Cmaj7"}, {"pack", "country"}, {"packs"}};
+    for (const char* command : {"today", "chord", "voicings", "connect", "packs", "pack", "widget",
+                                "recent", "collections", "settings", "rpc"}) {
+      EXPECT_THAT(english.output, HasSubstr(std::string("\n  ") + command));
+      pages.push_back({command, "--help"});
+    }
+    for (const Words& page : pages) {
+      const auto result = runIn(environment, page);
+      EXPECT_EQ(result.status, 0) << result.errors;
+      for (const auto line : tonelake::split(result.output, '\n')) {
+        EXPECT_LE(countColumns(line), pageWidth) << language << ": " << line;
+      }
+    }
+  }
+}
+
+TEST(TextColumns, BreakLinesWhereTheWritingMay) {
+  EXPECT_EQ(countColumns("Töne 和音"), 9U);
+  std::string text;
+  for (int i = 0; i < 30; ++i) text += "和音、";
+  const std::string lines = paragraph(text);
+  for (const auto line : tonelake::split(lines, '\n')) {
+    EXPECT_LE(countColumns(line), pageWidth);
+    EXPECT_FALSE(line.starts_with("、"));
+  }
+}
+
+}  // namespace
+}  // namespace zyndle
