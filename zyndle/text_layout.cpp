@@ -30,6 +30,11 @@ std::string fill(std::string start, const std::vector<std::string>& words) {
   return text + line + '\n';
 }
 
+std::vector<std::string> wordsOf(std::string_view sentences) {
+  const auto words = tonelake::split(sentences, ' ');
+  return {words.begin(), words.end()};
+}
+
 }  // namespace
 
 std::string labelledRow(std::string_view label, const std::vector<std::string>& items) {
@@ -41,10 +46,12 @@ std::string labelledRow(std::string_view label, const std::vector<std::string>& 
   return fill(std::move(start), words);
 }
 
+std::string paragraph(std::string_view sentences) {
+  return fill("", wordsOf(sentences));
+}
+
 std::string bulletedSentence(std::string_view sentence) {
-  std::vector<std::string> words;
-  for (const std::string_view word : tonelake::split(sentence, ' ')) words.emplace_back(word);
-  return fill("  - ", words);
+  return fill("  - ", wordsOf(sentence));
 }
 
 }  // namespace zyndle

@@ -14,6 +14,9 @@ inline constexpr std::size_t pageWidth = 80;
 ///   "  Intervals  Root, Minor Third, Perfect Fifth\n"
 std::string labelledRow(std::string_view label, const std::vector<std::string>& items);
 
+/// A text of one or more sentences, broken into lines.
+std::string paragraph(std::string_view sentences);
+
 /// "  - " and the sentence, further lines under its beginning.
 std::string bulletedSentence(std::string_view sentence);
 
