@@ -12,8 +12,9 @@ root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
     g++ cmake ninja-build
     libcairo2-dev libcli11-dev libfmt-dev libfontconfig-dev libfreetype-dev
     libhowardhinnant-date-dev libpugixml-dev libsqlite3-dev
-    nlohmann-json3-dev pkg-config tzdata zlib1g-dev
-    libsmf-dev)
+    libre2-dev
+    libsmf-dev
+    nlohmann-json3-dev pkg-config tzdata zlib1g-dev)
   test_packages=(clang-format libgmock-dev libgtest-dev poppler-utils
     python3-mido)
   check_packages=(clang-tidy shellcheck)

@@ -40,9 +40,11 @@ std::vector<Chord> readChordRow(const std::vector<std::string>& arguments, bool 
   return chords;
 }
 
-std::vector<Voicing> connectRow(const std::vector<Chord>& chords, const Instrument& instrument) {
+std::vector<Voicing> connectRow(const std::vector<Chord>& chords, const Instrument& instrument,
+                                tonelake::WholeNumber limit) {
   tonelake::Voicings::VoicingOptions options;
   options.capo = instrument.capo;
+  options.limit = limit;
   std::vector<Voicing> row =
       tonelake::Voicings::connectVoicings(chords, instrument.tuning, options);
   if (!row.empty()) return row;

@@ -14,8 +14,10 @@ namespace zyndle {
 std::vector<tonelake::Chord> readChordRow(const std::vector<std::string>& arguments, bool inAscii);
 
 /// Shapes for them that lie close to each other, one a chord. A CommandError that names the chord
-/// which cannot be played on the instrument.
+/// which cannot be played on the instrument. Of each chord the best `limit` are considered, all
+/// with a negative number.
 std::vector<tonelake::Voicings::Voicing> connectRow(const std::vector<tonelake::Chord>& chords,
-                                                    const Instrument& instrument);
+                                                    const Instrument& instrument,
+                                                    tonelake::WholeNumber limit = -1);
 
 }  // namespace zyndle

@@ -45,7 +45,8 @@ apt-get install fluidsynth fluid-soundfont-gm
 )";
 
 constexpr const char* examples = R"(Examples:
-  zyndle jam "C G Am F" -o song.mid
+  zyndle jam "I-V-vi-IV" --key G -o song.mid
+  zyndle jam "C G/B Am F" --style "Travis Alternation" --play
   zyndle jam "Dm7 G7 Cmaj7" --style "Bossa Nova" --tempo 120 --play
   zyndle jam "G D Em C" --style "Rolling Six" --drums none --bars 16 -o song.wav
   zyndle jam "A D E" --complexity 3 --library mine.json --play)";
@@ -61,8 +62,13 @@ constexpr WholeNumber mostBars = 256;
 constexpr WholeNumber defaultComplexity = 1;
 constexpr WholeNumber highestComplexity = 255;
 
+// Of each chord only its best shapes, which are full: without a limit the hand moves least over
+// shapes of three or four strings, and a jam wants to be heard.
+constexpr WholeNumber shapesOfChord = 4;
+
 struct JamOptions {
   std::vector<std::string> chords;
+  std::optional<std::string> key;
   std::string style = defaultStyle;
   std::optional<std::string> bass;
   std::optional<std::string> drums;
@@ -128,7 +134,7 @@ Accompaniment readAccompaniment(const JamOptions& options, const std::vector<Cho
   const auto once = static_cast<WholeNumber>(chords.size());
   piece.bars = readNumber("--bars", options.bars, std::max(defaultBars, std::min(once, mostBars)),
                           1, mostBars);
-  const auto voicings = connectRow(chords, Instrument());
+  const auto voicings = connectRow(chords, Instrument(), shapesOfChord);
   for (std::size_t i = 0; i < chords.size(); ++i) {
     piece.chords.push_back({chords[i], voicings[i].position});
   }
@@ -195,7 +201,7 @@ void jam(const JamOptions& options) {
   const bool writesToOutput = options.file == "-";
   installHost(writesToOutput);
   const Accompaniment piece =
-      readAccompaniment(options, readProgression(options.chords, options.ascii));
+      readAccompaniment(options, readProgression(options.chords, options.key, options.ascii));
   std::optional<desktop::Synthesizer> synthesizer;
   if (options.play || kind == FileKind::wav) synthesizer = readSynthesizer(options);
   const tonelake::Performance performance = tonelake::perform(piece);
@@ -212,13 +218,14 @@ void addJamCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<JamOptions>();
   CLI::App& command = *app.add_subcommand("jam", description);
   command.footer(std::string(introduction) + examples);
-  command.add_option("CHORDS", options->chords, "The chords, a bar each, in their order")
+  command.add_option("CHORDS", options->chords, "Names of chords or Roman numerals, a bar each")
       ->required()
       ->type_name("");
   const auto addText = [&command](const char* name, auto& text, const char* meaning,
                                   const char* kind) {
     command.add_option(name, text, meaning)->type_name(kind);
   };
+  addText("--key", options->key, "The key of Roman numerals (C)", "KEY");
   addText("--style", options->style, "A way to pick or strum (Campfire Strum)", "NAME");
   addText("--bass", options->bass, "A bass line, or none", "NAME");
   addText("--drums", options->drums, "A groove, or none", "NAME");

@@ -8,9 +8,10 @@
 
 namespace zyndle {
 
-/// The chords of a typed progression: names ("C G/B Am F") as readChordRow takes them. A
-/// CommandError when it cannot be read.
+/// The chords of a typed progression: Roman numerals in a key ("I-V-vi-IV", in C where no key is
+/// given), or names as readChordRow takes them ("C G/B Am F"). A key is a major or a minor chord. A
+/// CommandError names what cannot be read.
 std::vector<tonelake::Chord> readProgression(const std::vector<std::string>& arguments,
-                                             bool inAscii);
+                                             const std::optional<std::string>& key, bool inAscii);
 
 }  // namespace zyndle

@@ -48,6 +48,12 @@ void moveToDisplayOrder(std::vector<std::string>& types) {
   if (power < target && target != types.end()) std::rotate(power, power + 1, target + 1);
 }
 
+ChordFinder makeFinder(const ChordDataManager& manager) {
+  std::vector<const ChordData*> types;
+  for (const std::string& type : manager.chordTypes()) types.push_back(manager.chordData(type));
+  return {types, rootNotes};
+}
+
 }  // namespace
 
 const ChordDataManager& ChordDataManager::shared() {
@@ -63,6 +69,7 @@ ChordDataManager::ChordDataManager(std::string_view text, Diagnostics& diagnosti
       chordTypes_.push_back(title);
     }
     moveToDisplayOrder(chordTypes_);
+    finder_ = makeFinder(*this);
   } catch (const json::DecodingError& error) {
     diagnostics.write(std::string("Failed to parse JSON: ") + error.what());
   }
@@ -80,6 +87,14 @@ const ChordDataManager::ChordDictionary& ChordDataManager::chordDictionary() con
 
 std::span<const Note> ChordDataManager::allRootNotes() const {
   return rootNotes;
+}
+
+std::vector<Chord> ChordDataManager::findChordsExact(std::string_view notes) const {
+  return finder_.findExact(readNoteList(notes));
+}
+
+std::vector<Chord> ChordDataManager::findChordsMatching(std::string_view notes) const {
+  return finder_.findMatching(readNoteList(notes).pitches);
 }
 
 const std::vector<std::string>& chordTypes() {

@@ -10,6 +10,7 @@
 
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/chords/chord_data.h"
+#include "Tonelake/chords/chord_finder.h"
 #include "Tonelake/chords/priority_list.h"
 #include "Tonelake/platform/diagnostics.h"
 
@@ -49,9 +50,24 @@ class ChordDataManager {
   /// The roots that chords are offered on, in display order.
   std::span<const Note> allRootNotes() const;
 
+  /// The chords whose tones are exactly `notes`, the first of which is the bass. Names with commas
+  /// between them, in any case, "#" and "b" for the signs: "E, G, C" gives C major over E,
+  /// "c,eb,g" C minor. Only pitches count, so that a chord appears on each spelling of its root.
+  /// Empty when a piece is no note or a pitch is named twice. In display order: roots as in
+  /// allRootNotes, on each root types as in chordTypes.
+  std::vector<Chord> findChordsExact(std::string_view notes) const;
+
+  /// The chords in root position that hold all of `notes` or are held by them, best first: equal
+  /// ones, then by the number of tones that nobody named, then by the number of notes that the
+  /// chord lacks; among those major, minor, dominant 7th, major 7th and minor 7th first, the other
+  /// types by name, and a type's roots in display order. "C, E, B♭" gives C dominant 7th first.
+  /// Pieces that are no notes do not count; empty with fewer than two pitches.
+  std::vector<Chord> findChordsMatching(std::string_view notes) const;
+
  private:
   std::map<std::string, ChordData, std::less<>> chordData_;
   std::vector<std::string> chordTypes_;
+  ChordFinder finder_;
   mutable std::once_flag dictionaryOnce_;
   mutable ChordDictionary chordDictionary_;
 };

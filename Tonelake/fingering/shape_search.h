@@ -1,17 +1,14 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <vector>
 
 #include "Tonelake/fingering/chord_position.h"
 #include "Tonelake/foundation/whole_number.h"
+#include "Tonelake/theory/pitch_class_set.h"
 #include "Tonelake/theory/tuning.h"
 
 namespace tonelake {
-
-/// A set of pitch classes: bit n stands for the pitch class n semitones above C.
-using PitchClassSet = std::uint16_t;
 
 /// A string of the instrument as the search sees it.
 struct OpenString {

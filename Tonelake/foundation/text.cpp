@@ -1,6 +1,7 @@
 #include "Tonelake/foundation/text.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 
 namespace tonelake {
@@ -27,6 +28,12 @@ std::size_t characterLength(std::string_view text) noexcept {
   const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
   return code < smallest[length] || isSurrogate || code > 0x10FFFF ? 0 : length;
 }
+
+// Everything that Unicode calls white space, blanks of a web page included.
+constexpr std::array<std::string_view, 25> whiteSpace{
+    " ",      "\n",     "\r",     "\t",     "\v",     "\f",     "\u0085", "\u00A0", "\u1680",
+    "\u2000", "\u2001", "\u2002", "\u2003", "\u2004", "\u2005", "\u2006", "\u2007", "\u2008",
+    "\u2009", "\u200A", "\u2028", "\u2029", "\u202F", "\u205F", "\u3000"};
 
 }  // namespace
 
@@ -57,6 +64,21 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
     text.remove_prefix(at + from.size());
   }
   return replaced.append(text);
+}
+
+std::string_view trimmed(std::string_view text) noexcept {
+  const auto blankAt = [&](auto isAtEnd) {
+    return std::find_if(whiteSpace.begin(), whiteSpace.end(), isAtEnd);
+  };
+  const auto isFirst = [&](std::string_view blank) { return text.starts_with(blank); };
+  const auto isLast = [&](std::string_view blank) { return text.ends_with(blank); };
+  for (auto at = blankAt(isFirst); at != whiteSpace.end(); at = blankAt(isFirst)) {
+    text.remove_prefix(at->size());
+  }
+  for (auto at = blankAt(isLast); at != whiteSpace.end(); at = blankAt(isLast)) {
+    text.remove_suffix(at->size());
+  }
+  return text;
 }
 
 std::size_t countCharacters(std::string_view text) noexcept {

@@ -16,6 +16,9 @@ std::string join(const std::vector<std::string>& pieces, std::string_view separa
 /// `text` with every occurrence of `from` (not empty) replaced by `to`.
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
 
+/// `text` without white space at both ends: blanks of every width, tabs and line breaks.
+std::string_view trimmed(std::string_view text) noexcept;
+
 /// Characters as a reader counts them. Our names hold no combining marks, so one code point is
 /// one character: "E♭" has two. `text` is UTF-8.
 std::size_t countCharacters(std::string_view text) noexcept;

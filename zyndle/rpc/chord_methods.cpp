@@ -86,6 +86,17 @@ json::Value getChordPianoNotes(const json::Node& parameters, MethodContext&) {
   return Chords::getChordPianoNotes(root, formula);
 }
 
+json::Value findChordsExact(const json::Node& parameters, MethodContext&) {
+  return encodeList(ChordDataManager::shared().findChordsExact(parameters.member("notes").text()),
+                    tonelake::encodeChord);
+}
+
+json::Value findChordsMatching(const json::Node& parameters, MethodContext&) {
+  return encodeList(
+      ChordDataManager::shared().findChordsMatching(parameters.member("notes").text()),
+      tonelake::encodeChord);
+}
+
 constexpr MethodRow rows[] = {
     {"chordTypes", chordTypes},
     {"allRootNotes", allRootNotes},
@@ -100,6 +111,8 @@ constexpr MethodRow rows[] = {
     {"getNoteNumbersForChord", getNoteNumbersForChord},
     {"getTitleForChord", getTitleForChord},
     {"getChordPianoNotes", getChordPianoNotes},
+    {"findChordsExact", findChordsExact},
+    {"findChordsMatching", findChordsMatching},
 };
 
 }  // namespace
