@@ -14,8 +14,9 @@ root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
     libcairo2-dev libcli11-dev libfmt-dev libfontconfig-dev libfreetype-dev
     libhowardhinnant-date-dev libpugixml-dev libsqlite3-dev
     libre2-dev
+    libsmf-dev
     nlohmann-json3-dev pkg-config tzdata zlib1g-dev)
-  test_packages=(clang-format libgmock-dev libgtest-dev libre2-dev poppler-utils)
+  test_packages=(clang-format libgmock-dev libgtest-dev libre2-dev poppler-utils python3-mido)
   check_packages=(clang-tidy shellcheck)
 }
 

@@ -8,10 +8,7 @@
 
 #include "Tonelake/chords/chord_json.h"
 #include "Tonelake/chords/chord_naming.h"
-#include "Tonelake/fingering/voicing.h"
-#include "Tonelake/foundation/text.h"
-#include "zyndle/chord_name.h"
-#include "zyndle/command_error.h"
+#include "zyndle/chord_row.h"
 #include "zyndle/connected_shapes.h"
 #include "zyndle/drawing.h"
 #include "zyndle/host.h"
@@ -47,29 +44,6 @@ struct ConnectOptions {
   OutputOptions output;
 };
 
-// The names between blanks, commas and bar lines.
-std::vector<std::string> namesIn(const std::vector<std::string>& arguments) {
-  constexpr std::string_view separators = " ,|\t\r\n";
-  const std::string text = tonelake::join(arguments, " ");
-  std::vector<std::string> names;
-  std::size_t begin = text.find_first_not_of(separators);
-  while (begin != std::string::npos) {
-    const std::size_t end = std::min(text.find_first_of(separators, begin), text.size());
-    names.push_back(text.substr(begin, end - begin));
-    begin = text.find_first_not_of(separators, end);
-  }
-  return names;
-}
-
-std::vector<Chord> readChords(const ConnectOptions& options) {
-  std::vector<Chord> chords;
-  for (const std::string& name : namesIn(options.names)) {
-    chords.push_back(readChordName(name, options.output.ascii));
-  }
-  if (chords.empty()) refuse(translated("{} names no chord", "CHORDS"));
-  return chords;
-}
-
 std::string jsonOf(const std::vector<Chord>& chords, const std::vector<Voicing>& row,
                    const Instrument& instrument) {
   tonelake::json::Value object;
@@ -96,7 +70,7 @@ void showConnected(const ConnectOptions& options) {
   checkOutputOptions(options.output);
   const Instrument instrument = readInstrument(options.instrument);
   installHost(options.output.isForPrograms());
-  const std::vector<Chord> chords = readChords(options);
+  const std::vector<Chord> chords = readChordRow(options.names, options.output.ascii);
   const std::vector<Voicing> row = connectShapes(chords, instrument);
   writeText(options.output, options.output.json
                                 ? jsonOf(chords, row, instrument)

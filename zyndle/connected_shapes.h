@@ -9,10 +9,12 @@
 
 namespace zyndle {
 
-/// A shape for each chord of a row, close to each other. A CommandError that names a chord that
-/// cannot be played.
+/// A shape for each chord of a row, close to each other. Of each chord the best `limit` are
+/// considered, all with a negative number. A CommandError that names a chord that cannot be played
+/// on the instrument.
 std::vector<tonelake::Voicings::Voicing> connectShapes(const std::vector<tonelake::Chord>& chords,
-                                                       const Instrument& instrument);
+                                                       const Instrument& instrument,
+                                                       tonelake::WholeNumber limit = -1);
 
 /// The chords with their shapes, for drawing.
 std::vector<NamedShape> nameShapes(const std::vector<tonelake::Chord>& chords,

@@ -15,8 +15,13 @@
 
 namespace {
 
+constexpr const char* jamProgram = "zyndle-jam";
+constexpr zyndle::Companion jam{"jam", "Play a row of chords as music", jamProgram};
+constexpr zyndle::Companion patterns{"patterns", "Show ways to pick, bass lines and grooves",
+                                     jamProgram};
+
 // In the order in which zyndle --help lists them.
-void addCommands(CLI::App& app, zyndle::Action& action, zyndle::Arguments /*arguments*/) {
+void addCommands(CLI::App& app, zyndle::Action& action, zyndle::Arguments arguments) {
   zyndle::addTodayCommand(app, action);
   zyndle::addChordCommand(app, action);
   zyndle::addVoicingsCommand(app, action);
@@ -25,6 +30,8 @@ void addCommands(CLI::App& app, zyndle::Action& action, zyndle::Arguments /*argu
   zyndle::addProgressionCommand(app, action);
   zyndle::addProgressionsCommand(app, action);
   zyndle::addPacksCommands(app, action);
+  zyndle::addCompanionCommand(app, action, arguments, jam);
+  zyndle::addCompanionCommand(app, action, arguments, patterns);
   zyndle::addWidgetCommand(app, action);
   zyndle::addRecentCommand(app, action);
   zyndle::addCollectionsCommand(app, action);

@@ -10,7 +10,7 @@ using MethodsByName = std::unordered_map<std::string_view, Method>;
 MethodsByName makeMethodsByName() {
   MethodsByName methods;
   for (const auto table : {theoryMethods(), chordMethods(), fingeringMethods(), contentMethods(),
-                           todayMethods(), diagramMethods(), widgetMethods()}) {
+                           todayMethods(), diagramMethods(), widgetMethods(), patternMethods()}) {
     for (const MethodRow& row : table) methods.emplace(row.name, row.method);
   }
   return methods;

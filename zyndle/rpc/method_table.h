@@ -31,5 +31,6 @@ std::span<const MethodRow> contentMethods() noexcept;
 std::span<const MethodRow> todayMethods() noexcept;
 std::span<const MethodRow> diagramMethods() noexcept;
 std::span<const MethodRow> widgetMethods() noexcept;
+std::span<const MethodRow> patternMethods() noexcept;
 
 }  // namespace zyndle

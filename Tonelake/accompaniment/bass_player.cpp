@@ -1,0 +1,53 @@
+#include <algorithm>
+
+#include "Tonelake/accompaniment/pattern_repetition.h"
+#include "Tonelake/accompaniment/players.h"
+#include "Tonelake/accompaniment/standard_pitches.h"
+
+namespace tonelake {
+namespace {
+
+// A bass note from here up has its fifth below: the B on the second fret of the second string.
+constexpr int highBassNote = 35;
+
+// The lowest note of a pitch class that lies above `note`.
+int liftAbove(int note, int pitchClass) {
+  const int distance = (pitchClass - note % pitchClasses + pitchClasses) % pitchClasses;
+  return note + (distance == 0 ? pitchClasses : distance);
+}
+
+// The MIDI number; only for pitches that sound.
+int bassNoteNumber(BassPitch pitch, const Chord& chord) {
+  const ChordPillars pillars = findPillars(chord);
+  const int root = liftAbove(openBassString - 1, pillars.bass);
+  switch (pitch) {
+    case BassPitch::third:
+      return liftAbove(root, pillars.third);
+    case BassPitch::fifth:
+      return liftAbove(root, pillars.fifth) - (root >= highBassNote ? pitchClasses : 0);
+    case BassPitch::octave:
+      return root + pitchClasses;
+    case BassPitch::root:
+    case BassPitch::rest:
+      break;
+  }
+  return root;
+}
+
+}  // namespace
+
+std::vector<NoteEvent> playBass(const BassPattern& pattern, const ChordChart& chart) {
+  std::vector<NoteEvent> events;
+  repeatPattern(
+      pattern.bassNotes, chart.length(), [&](const BassNote& note, WholeNumber start, bool) {
+        const int velocity = playableVelocity(note.noteVelocity);
+        if (note.pitch == BassPitch::rest || velocity == 0) return;
+        const bool isMuted = note.noteArticulation == NoteArticulation::mute;
+        const WholeNumber length = isMuted ? muteLength : lengthOf(note);
+        events.push_back({start, 0, std::min(length, chart.endOfChord(start) - start),
+                          bassNoteNumber(note.pitch, chart.at(start).chord), velocity, 0});
+      });
+  return events;
+}
+
+}  // namespace tonelake

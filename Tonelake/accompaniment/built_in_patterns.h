@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Tonelake/patterns/arpeggio_sequence.h"
+
+namespace tonelake {
+
+/// The patterns that come with the library, written for teaching: some twenty ways to pick and
+/// strum, with the bass lines and grooves that go with them. Each fills whole bars, and its name is
+/// its own among its kind.
+struct PatternLibrary {
+  ArpeggioSequences arpeggios;
+  BassPatterns basses;
+  DrumPatterns drums;
+};
+
+/// Decoded when first asked for; kept until the process ends. Any thread may call.
+const PatternLibrary& builtInPatterns();
+
+}  // namespace tonelake

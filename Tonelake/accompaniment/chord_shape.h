@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Tonelake/chords/chord.h"
+#include "Tonelake/fingering/chord_position.h"
+
+namespace tonelake {
+
+/// A chord and the way in which the left hand holds it.
+struct ChordShape {
+  Chord chord;
+  ChordPosition position;  ///< in standard tuning, at least one string sounding
+
+  friend bool operator==(const ChordShape&, const ChordShape&) = default;
+};
+
+/// The pitch classes, 0 (C) to 11, that an accompaniment leans on.
+struct ChordPillars {
+  int bass = 0;   ///< the bass note that the chord asks for
+  int third = 0;  ///< of a suspended chord its second or fourth; the root where there is neither
+  int fifth = 0;  ///< perfect, else diminished or augmented; the root where there is none
+};
+
+/// All three are tones of the chord; of an unknown chord type all are the root.
+ChordPillars findPillars(const Chord& chord);
+
+}  // namespace tonelake

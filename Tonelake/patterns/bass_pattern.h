@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Tonelake/foundation/uuid.h"
+#include "Tonelake/foundation/whole_number.h"
+#include "Tonelake/patterns/pattern_enumerations.h"
+
+namespace tonelake {
+
+/// One note of a bass line, or a rest.
+struct BassNote {
+  NoteDuration noteDuration = NoteDuration::crochet;  ///< the time until the next note
+  BassPitch pitch = BassPitch::root;
+  NoteArticulation noteArticulation = NoteArticulation::pick;
+  /// 1 (softest) to 127; any number may be stored, and a player brings it into this range, 0 and
+  /// less being silence.
+  WholeNumber noteVelocity = 0;
+
+  friend bool operator==(const BassNote&, const BassNote&) = default;
+};
+
+/// A bass line to play over any chord, again and again. Made from its fields it gets an id of
+/// its own, {name, description, notes, metre}; two are equal when their ids are.
+struct BassPattern {
+  std::string name;
+  std::string description;
+  std::vector<BassNote> bassNotes;
+  TimeSignature timeSignature = TimeSignature::ts_44;
+  Uuid id = Uuid::random();
+
+  friend bool operator==(const BassPattern& a, const BassPattern& b) { return a.id == b.id; }
+};
+
+/// A bass line that goes with some arpeggio.
+struct BassPatternWithComplexity {
+  BassPattern bassPattern;
+  std::uint8_t complexity = 0;  ///< the higher, the busier; 1 to 3 in the built-in library
+  Uuid id = Uuid::random();
+
+  friend bool operator==(const BassPatternWithComplexity&,
+                         const BassPatternWithComplexity&) = default;
+};
+
+/// A library of bass lines.
+struct BassPatterns {
+  std::vector<BassPattern> bassPatterns;
+
+  /// The first with exactly this name; null when there is none.
+  const BassPattern* getBassPattern(std::string_view byName) const noexcept;
+
+  friend bool operator==(const BassPatterns&, const BassPatterns&) = default;
+};
+
+}  // namespace tonelake

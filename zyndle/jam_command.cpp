@@ -1,0 +1,244 @@
+#include "zyndle/jam_command.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "Desktop/ascii_text.h"
+#include "Desktop/midi_file.h"
+#include "Desktop/synthesizer.h"
+#include "Tonelake/accompaniment/accompaniment.h"
+#include "Tonelake/chords/chord_naming.h"
+#include "Tonelake/foundation/text.h"
+#include "zyndle/command_error.h"
+#include "zyndle/connected_shapes.h"
+#include "zyndle/host.h"
+#include "zyndle/number_option.h"
+#include "zyndle/output.h"
+#include "zyndle/pattern_names.h"
+#include "zyndle/progression.h"
+#include "zyndle/text_layout.h"
+
+namespace zyndle {
+namespace {
+
+using tonelake::Accompaniment;
+using tonelake::Chord;
+using tonelake::PatternLibrary;
+using tonelake::WholeNumber;
+
+constexpr const char* description = "Play a row of chords as music";
+
+constexpr const char* introduction =
+    R"(A guitar plays the chords, a bar each, in one of the ways that zyndle patterns
+lists, and bass and drums play what goes with it. The shapes are those of zyndle
+connect.
+
+The name of the FILE tells its kind: .mid for notes, .wav for sound; - writes
+the notes to standard output. Sound and --play need fluidsynth and a soundfont:
+apt-get install fluidsynth fluid-soundfont-gm
+
+)";
+
+constexpr const char* examples = R"(Examples:
+  zyndle jam "I-V-vi-IV" --key G -o song.mid
+  zyndle jam "C G/B Am F" --style "Travis Alternation" --play
+  zyndle jam "Dm7 G7 Cmaj7" --style "Bossa Nova" --tempo 120 --play
+  zyndle jam "G D Em C" --style "Rolling Six" --drums none --bars 16 -o song.wav
+  zyndle jam "A D E" --complexity 3 --library mine.json --play)";
+
+constexpr const char* defaultStyle = "Campfire Strum";
+constexpr const char* nobody = "none";
+
+constexpr WholeNumber defaultTempo = 92;
+constexpr WholeNumber slowest = 20;
+constexpr WholeNumber fastest = 400;
+constexpr WholeNumber defaultBars = 8;
+constexpr WholeNumber mostBars = 256;
+constexpr WholeNumber defaultComplexity = 1;
+constexpr WholeNumber highestComplexity = 255;
+
+// Of each chord only its best shapes, which are full: without a limit the hand moves least over
+// shapes of three or four strings, and a jam wants to be heard.
+constexpr WholeNumber shapesOfChord = 4;
+
+struct JamOptions {
+  std::vector<std::string> chords;
+  std::optional<std::string> key;
+  std::string style = defaultStyle;
+  std::optional<std::string> bass;
+  std::optional<std::string> drums;
+  std::optional<std::string> complexity;
+  std::optional<std::string> tempo;
+  std::optional<std::string> bars;
+  std::optional<std::string> library;
+  std::optional<std::string> soundfont;
+  std::optional<std::string> file;
+  bool play = false;
+  bool ascii = false;
+};
+
+enum class FileKind { none, midi, wav };
+
+FileKind readFileKind(const JamOptions& options) {
+  if (!options.file && !options.play) refuse("say where the music goes, with -o FILE or --play");
+  if (!options.file) return FileKind::none;
+  std::string name = *options.file;
+  std::transform(name.begin(), name.end(), name.begin(), tonelake::lowercase);
+  if (name == "-" || name.ends_with(".mid") || name.ends_with(".midi")) return FileKind::midi;
+  if (name.ends_with(".wav")) return FileKind::wav;
+  refuse("-o " + tonelake::quoted(*options.file) + " ends neither in .mid nor in .wav");
+}
+
+// The pattern of a name. A CommandError that tells the nearest names when there is none.
+template <typename Pattern>
+const Pattern& readPattern(const std::string& option, const std::vector<Pattern>& patterns,
+                           const std::string& name) {
+  if (const Pattern* found = findPattern(patterns, name)) return *found;
+  std::vector<std::string> names;
+  addNames(names, patterns);
+  refuse("there is no " + option + " " + tonelake::quoted(name) + describeNearest(name, names));
+}
+
+// What bass or drums play: what was asked for, else what is linked to the arpeggio.
+template <typename Pattern>
+std::optional<Pattern> readPart(const std::string& option, const std::vector<Pattern>& patterns,
+                                const std::optional<std::string>& name, const Pattern* linked,
+                                tonelake::TimeSignature timeSignature) {
+  if (!name) return linked == nullptr ? std::nullopt : std::optional<Pattern>(*linked);
+  if (*name == nobody) return std::nullopt;
+  const Pattern& pattern = readPattern(option, patterns, *name);
+  if (pattern.timeSignature != timeSignature) {
+    refuse(option + " " + tonelake::quoted(pattern.name) + " is in " +
+           std::string(tonelake::rawValue(pattern.timeSignature)) + ", the style in " +
+           std::string(tonelake::rawValue(timeSignature)));
+  }
+  return pattern;
+}
+
+Accompaniment readAccompaniment(const JamOptions& options, const std::vector<Chord>& chords) {
+  const PatternLibrary library = readLibrary(options.library);
+  const auto& arpeggio = readPattern("--style", library.arpeggios.sequences, options.style);
+  const WholeNumber complexity =
+      readNumber("--complexity", options.complexity, defaultComplexity, 0, highestComplexity);
+  Accompaniment piece{{}, arpeggio, std::nullopt, std::nullopt, defaultTempo, defaultBars};
+  piece.bass = readPart("--bass", library.basses.bassPatterns, options.bass,
+                        tonelake::chooseBass(arpeggio, complexity), arpeggio.timeSignature);
+  piece.drums = readPart("--drums", library.drums.drumPatterns, options.drums,
+                         tonelake::chooseDrums(arpeggio, complexity), arpeggio.timeSignature);
+  piece.tempo = readNumber("--tempo", options.tempo, defaultTempo, slowest, fastest);
+  const auto once = static_cast<WholeNumber>(chords.size());
+  piece.bars = readNumber("--bars", options.bars, std::max(defaultBars, std::min(once, mostBars)),
+                          1, mostBars);
+  const auto voicings = connectShapes(chords, Instrument(), shapesOfChord);
+  for (std::size_t i = 0; i < chords.size(); ++i) {
+    piece.chords.push_back({chords[i], voicings[i].position});
+  }
+  return piece;
+}
+
+// "C major x32010": frets above the ninth are set apart, "x x 10 12 12 11".
+std::string shapeText(const tonelake::ChordShape& shape) {
+  const auto& frets = shape.position.position;
+  const bool isHigh = std::any_of(frets.begin(), frets.end(), [](int fret) { return fret > 9; });
+  std::string text;
+  for (const int fret : frets) {
+    if (isHigh && !text.empty()) text += ' ';
+    text += fret < 0 ? "x" : std::to_string(fret);
+  }
+  return tonelake::Chords::getShortestTitleForChord(shape.chord) + " " + text;
+}
+
+std::string nameOf(const auto& pattern) {
+  return pattern ? pattern->name : nobody;
+}
+
+std::string summary(const Accompaniment& piece, WholeNumber length) {
+  constexpr WholeNumber secondsPerMinute = 60;
+  const WholeNumber seconds =
+      (length / tonelake::ticksPerCrotchet * secondsPerMinute + piece.tempo / 2) / piece.tempo;
+  std::vector<std::string> shapes;
+  for (const auto& shape : piece.chords) shapes.push_back(shapeText(shape));
+  return labelledRow("Style", {piece.arpeggio.name}) + labelledRow("Bass", {nameOf(piece.bass)}) +
+         labelledRow("Drums", {nameOf(piece.drums)}) +
+         labelledRow("Length",
+                     {std::to_string(piece.bars) + " bars of " +
+                      std::string(tonelake::rawValue(piece.arpeggio.timeSignature)) + " at " +
+                      std::to_string(piece.tempo) + ": " + std::to_string(seconds) + " seconds"}) +
+         labelledRow("Shapes", shapes);
+}
+
+desktop::Synthesizer readSynthesizer(const JamOptions& options) {
+  std::string problem;
+  const auto synthesizer = desktop::findSynthesizer(options.soundfont, problem);
+  if (!synthesizer) fail(problem);
+  return *synthesizer;
+}
+
+// Sound, whose last notes need time to die away.
+void makeSound(const JamOptions& options, const desktop::Synthesizer& synthesizer, FileKind kind,
+               const tonelake::Performance& performance, const std::string& title) {
+  constexpr WholeNumber secondsOfTail = 3;
+  constexpr WholeNumber secondsPerMinute = 60;
+  const WholeNumber tail =
+      secondsOfTail * performance.tempo * tonelake::ticksPerCrotchet / secondsPerMinute;
+  const std::string midi = desktop::midiFile(performance, title, tail);
+  std::string problem;
+  if (kind == FileKind::wav) {
+    writeFile(*options.file, "");  // tells in our words when it cannot be written
+    problem = desktop::renderMidi(synthesizer, midi, *options.file);
+  }
+  if (problem.empty() && options.play) problem = desktop::playMidi(synthesizer, midi);
+  if (!problem.empty()) fail(problem);
+}
+
+void jam(const JamOptions& options) {
+  const FileKind kind = readFileKind(options);
+  const bool writesToOutput = options.file == "-";
+  installHost(writesToOutput);
+  const Accompaniment piece =
+      readAccompaniment(options, readProgression(options.chords, options.key, options.ascii));
+  std::optional<desktop::Synthesizer> synthesizer;
+  if (options.play || kind == FileKind::wav) synthesizer = readSynthesizer(options);
+  const tonelake::Performance performance = tonelake::perform(piece);
+  const std::string title = tonelake::join(options.chords, " ");
+  if (kind == FileKind::midi) writeFile(*options.file, desktop::midiFile(performance, title));
+  const std::string text = summary(piece, performance.length);
+  if (!writesToOutput) writeStandardOutput(options.ascii ? desktop::toAscii(text) : text);
+  if (synthesizer) makeSound(options, *synthesizer, kind, performance, title);
+}
+
+}  // namespace
+
+void addJamCommand(CLI::App& app, Action& action) {
+  const auto options = std::make_shared<JamOptions>();
+  CLI::App& command = *app.add_subcommand("jam", description);
+  command.footer(std::string(introduction) + examples);
+  command.add_option("CHORDS", options->chords, "Names of chords or Roman numerals, a bar each")
+      ->required()
+      ->type_name("");
+  const auto addText = [&command](const char* name, auto& text, const char* meaning,
+                                  const char* kind) {
+    command.add_option(name, text, meaning)->type_name(kind);
+  };
+  addText("--key", options->key, "The key of Roman numerals (C)", "KEY");
+  addText("--style", options->style, "A way to pick or strum (Campfire Strum)", "NAME");
+  addText("--bass", options->bass, "A bass line, or none", "NAME");
+  addText("--drums", options->drums, "A groove, or none", "NAME");
+  addText("--complexity", options->complexity, "How busy bass and drums may be (1)", "N");
+  addText("--tempo", options->tempo, "Crotchets a minute (92)", "N");
+  addText("--bars", options->bars, "The length (8, or one for each chord)", "N");
+  addText("--library", options->library, "Read styles from a JSON file", "FILE");
+  addText("-o,--output", options->file, "Write a .mid or a .wav file", "FILE");
+  addText("--soundfont", options->soundfont, "The sounds to play with", "FILE");
+  command.add_flag("--play", options->play, "Play it aloud")->disable_flag_override();
+  command.add_flag("--ascii", options->ascii, "Write ASCII characters only")
+      ->disable_flag_override();
+  command.callback([options, &action] { action = [options] { jam(*options); }; });
+}
+
+}  // namespace zyndle

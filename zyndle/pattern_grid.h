@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include "Tonelake/patterns/arpeggio_sequence.h"
+
+namespace zyndle {
+
+/// A pattern as a grid in ASCII: a row for each voice, a column for each moment.
+///
+///               |1 & 2 & 3 & 4 &
+///     fingers   |- - - . - - - .
+///     thumb     |O - - - o - - -
+///
+/// O is loud, o medium, . soft and x muted. Bars are drawn beside each other as far as a page is
+/// wide. A line that explains the signs is gridLegend.
+std::string drawGrid(const tonelake::ArpeggioSequence& pattern);
+std::string drawGrid(const tonelake::BassPattern& pattern);
+std::string drawGrid(const tonelake::DrumPattern& pattern);
+
+inline constexpr const char* gridLegend = "O loud   o medium   . soft   x muted\n";
+
+}  // namespace zyndle

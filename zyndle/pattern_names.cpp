@@ -1,0 +1,72 @@
+#include "zyndle/pattern_names.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "Desktop/files.h"
+#include "Tonelake/foundation/text.h"
+#include "Tonelake/patterns/pattern_json.h"
+#include "zyndle/command_error.h"
+#include "zyndle/nearest_names.h"
+
+namespace zyndle {
+namespace {
+
+// Far above any library that somebody wrote.
+constexpr std::size_t largestFile = std::size_t{1} << 20U;
+constexpr const char* largestFileText = "1 MiB";
+
+tonelake::ArpeggioSequences readSequences(const std::string& file) {
+  const auto text = desktop::readFile(file, largestFile);
+  if (!text) {
+    refuse("cannot read " + tonelake::quoted(file) + ", or it is larger than " + largestFileText);
+  }
+  try {
+    const tonelake::json::Value document = tonelake::json::parse(*text);
+    return tonelake::decodePattern<tonelake::ArpeggioSequences>(tonelake::json::Node(document));
+  } catch (const tonelake::json::DecodingError& error) {
+    refuse(tonelake::quoted(file) + " is no library of patterns: " + error.what());
+  }
+}
+
+std::string lowercase(std::string_view text) {
+  std::string result(text);
+  std::transform(result.begin(), result.end(), result.begin(), tonelake::lowercase);
+  return result;
+}
+
+}  // namespace
+
+tonelake::PatternLibrary readLibrary(const std::optional<std::string>& file) {
+  tonelake::PatternLibrary library = tonelake::builtInPatterns();
+  if (file) library.arpeggios = readSequences(*file);
+  return library;
+}
+
+bool isSameName(std::string_view one, std::string_view other) {
+  return lowercase(one) == lowercase(other);
+}
+
+std::string describeNearest(std::string_view name, const std::vector<std::string>& known) {
+  constexpr std::size_t handful = 3;
+  constexpr std::size_t longestName = 64;
+  if (name.size() > longestName) return "";
+  const std::string wanted = lowercase(name);
+  std::vector<std::pair<std::size_t, std::string>> ranked;
+  for (const std::string& candidate : known) {
+    const std::string own = lowercase(candidate);
+    const bool isPart = !wanted.empty() && own.find(wanted) != std::string::npos;
+    const std::size_t distance = isPart ? 0 : editDistance(wanted, own, longestName);
+    if (isPart || distance * 2 <= own.size()) ranked.emplace_back(distance, candidate);
+  }
+  std::stable_sort(ranked.begin(), ranked.end(),
+                   [](const auto& a, const auto& b) { return a.first < b.first; });
+  std::vector<std::string> nearest;
+  for (const auto& [distance, candidate] : ranked) {
+    if (nearest.size() < handful) nearest.push_back(candidate);
+  }
+  if (nearest.empty()) return "; zyndle patterns lists all";
+  return "; the nearest are " + tonelake::join(nearest, ", ");
+}
+
+}  // namespace zyndle
