@@ -11,9 +11,10 @@ root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
   zyndle_packages=(
     g++ cmake ninja-build
     libcairo2-dev libcli11-dev libfmt-dev libfontconfig-dev libfreetype-dev
-    libhowardhinnant-date-dev libpugixml-dev libsqlite3-dev
+    libhowardhinnant-date-dev libical-dev libpugixml-dev libsdbus-c++-dev libsqlite3-dev
     nlohmann-json3-dev pkg-config tzdata zlib1g-dev)
-  test_packages=(clang-format libgmock-dev libgtest-dev poppler-utils)
+  test_packages=(
+    clang-format dbus libgmock-dev libgtest-dev poppler-utils python3-dbusmock python3-icalendar)
   check_packages=(clang-tidy shellcheck)
 }
 
