@@ -11,8 +11,11 @@
 
 namespace {
 
+constexpr zyndle::Companion reminders{
+    "reminders", "Be reminded of the chord of the day every morning", "zyndle-reminders"};
+
 // In the order in which zyndle --help lists them.
-void addCommands(CLI::App& app, zyndle::Action& action, zyndle::Arguments /*arguments*/) {
+void addCommands(CLI::App& app, zyndle::Action& action, zyndle::Arguments arguments) {
   zyndle::addTodayCommand(app, action);
   zyndle::addChordCommand(app, action);
   zyndle::addVoicingsCommand(app, action);
@@ -20,6 +23,7 @@ void addCommands(CLI::App& app, zyndle::Action& action, zyndle::Arguments /*argu
   zyndle::addWidgetCommand(app, action);
   zyndle::addRecentCommand(app, action);
   zyndle::addCollectionsCommand(app, action);
+  zyndle::addCompanionCommand(app, action, arguments, reminders);
   zyndle::addSettingsCommand(app, action);
   zyndle::addRpcCommand(app, action);
 }

@@ -19,6 +19,11 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using tonelake::LocalTime;
 
+std::shared_ptr<const tonelake::Calendar> clockAt(const LocalTime& now, const std::string& zone) {
+  const auto moment = *makeGregorianCalendar(zone)->instant(now);
+  return makeGregorianCalendar(zone, [moment] { return moment; });
+}
+
 class NotingPoster final : public NotificationPoster {
  public:
   std::vector<std::string> posted;
@@ -56,9 +61,7 @@ class ReminderDelivery : public testing::Test {
   }
 
   Delivery deliver(const LocalTime& now, const std::string& zone = "UTC") {
-    const auto moment = *makeGregorianCalendar(zone)->instant(now);
-    const auto calendar = makeGregorianCalendar(zone, [moment] { return moment; });
-    return deliverDueReminders(*open(), poster, *calendar, diagnostics);
+    return deliverDueReminders(*open(), poster, *clockAt(now, zone), diagnostics);
   }
 
   TemporaryFolder folder;
@@ -109,12 +112,9 @@ TEST_F(ReminderDelivery, ReplacesByIdentifier) {
 
 TEST_F(ReminderDelivery, LosesNoneToADeliverersDeath) {
   add("a", {2025, 3, 7, 8, 0, 0});
-  const auto now = [](int second) {
-    return *makeGregorianCalendar("UTC")->instant({2025, 3, 7, 8, second / 60, second % 60});
-  };
   const auto store = open();
   StoredNotification dying = store->pending().notifications.at(0);
-  EXPECT_TRUE(store->claim(dying, now(0)).isDone);
+  EXPECT_TRUE(store->claim(dying, clockAt({2025, 3, 7, 8, 0, 0}, "UTC")->now()).isDone);
   EXPECT_EQ(deliver({2025, 3, 7, 8, 0, 30}).posted, 0) << "the claim holds";
   EXPECT_EQ(deliver({2025, 3, 7, 8, 0, 31}).posted, 1) << "it has lapsed";
   EXPECT_FALSE(store->markDelivered(dying).isDone);
@@ -129,9 +129,8 @@ TEST_F(ReminderDelivery, PostsNothingTwice) {
   std::vector<std::jthread> threads;
   for (NotingPoster& each : posters) {
     threads.emplace_back([&] {
-      const auto moment = *makeGregorianCalendar("UTC")->instant({2025, 3, 7, 9, 0, 0});
-      const auto calendar = makeGregorianCalendar("UTC", [moment] { return moment; });
-      EXPECT_EQ(deliverDueReminders(*open(), each, *calendar, diagnostics).problem, std::nullopt);
+      const auto clock = clockAt({2025, 3, 7, 9, 0, 0}, "UTC");
+      EXPECT_EQ(deliverDueReminders(*open(), each, *clock, diagnostics).problem, std::nullopt);
     });
   }
   threads.clear();

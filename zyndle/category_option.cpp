@@ -1,0 +1,26 @@
+#include "zyndle/category_option.h"
+
+#include "TodayChordExtension/widgets/shared_settings.h"
+#include "Tonelake/foundation/text.h"
+#include "Tonelake/platform/platform.h"
+#include "zyndle/command_error.h"
+
+namespace zyndle {
+
+using tonelake::ChordCategory;
+
+std::optional<ChordCategory> readCategory(const std::optional<std::string>& text) {
+  if (!text) return std::nullopt;
+  const std::optional<ChordCategory> category = ChordCategory::fromRawValue(*text);
+  if (!category) {
+    refuse("--category " + tonelake::quoted(*text) + " is not one of beginner, advanced, jazz");
+  }
+  return category;
+}
+
+ChordCategory categoryAsSet() {
+  return todaychord::SharedSettings(tonelake::processPlatform().sharedSettings)
+      .todayChordCategory();
+}
+
+}  // namespace zyndle
