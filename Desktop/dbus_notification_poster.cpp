@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <future>
 #include <map>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -15,6 +17,7 @@ namespace desktop {
 namespace {
 
 using Clock = std::chrono::steady_clock;
+using Connection = std::unique_ptr<sdbus::IConnection>;
 using Hints = std::map<std::string, sdbus::Variant>;
 
 constexpr const char* service = "org.freedesktop.Notifications";
@@ -31,6 +34,18 @@ std::string escapeMarkup(const std::string& text) {
   return tonelake::replaceAll(escaped, ">", "&gt;");
 }
 
+// On a thread of its own, since a bus that is there but does not answer would hold the caller up
+// for a minute and a half. The thread outlives a call that gave up, and needs nothing of it.
+Connection connect() {
+  std::packaged_task<Connection()> task([] { return sdbus::createSessionBusConnection(); });
+  std::future<Connection> connection = task.get_future();
+  std::thread(std::move(task)).detach();
+  if (connection.wait_for(timeOut) != std::future_status::ready) {
+    throw sdbus::Error("org.freedesktop.DBus.Error.Timeout", "the bus does not answer");
+  }
+  return connection.get();
+}
+
 std::string describe(const sdbus::Error& error) {
   return "no notification service takes the reminder: " +
          (error.getMessage().empty() ? error.getName() : error.getMessage());
@@ -43,7 +58,7 @@ class DbusNotificationPoster::Session {
  public:
   explicit Session(const OpenLink& openLink)
       : openLink_(openLink),
-        connection_(sdbus::createSessionBusConnection()),
+        connection_(connect()),
         proxy_(sdbus::createProxy(*connection_, service, object)) {
     if (!openLink_) return;
     // Before anything is posted, so that no click comes too early.
@@ -76,7 +91,7 @@ class DbusNotificationPoster::Session {
   }
 
   const OpenLink& openLink_;
-  const std::unique_ptr<sdbus::IConnection> connection_;
+  const Connection connection_;
   const std::unique_ptr<sdbus::IProxy> proxy_;
   std::vector<std::string> capabilities_;
   std::map<std::uint32_t, std::string> links_;  // by the service's number for the notification

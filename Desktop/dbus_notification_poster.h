@@ -20,7 +20,7 @@ class DbusNotificationPoster final : public NotificationPoster {
   explicit DbusNotificationPoster(OpenLink openLink = {});
   ~DbusNotificationPoster() override;
 
-  /// Takes two seconds at most for each of its two calls.
+  /// Takes two seconds at most to connect, and for each of its two calls.
   std::optional<std::string> post(const StoredNotification& notification) override;
 
   /// Waits this long, and deals with the clicks that come meanwhile.

@@ -7,6 +7,7 @@ import datetime
 import os
 import pathlib
 import shutil
+import socket
 import sqlite3
 import subprocess
 import sys
@@ -33,7 +34,8 @@ class Trial(dbusmock.DBusTestCase):
 
     def start(self, *arguments):
         process = subprocess.Popen([PROGRAM, "reminders", *arguments], env=self.environment,
-                                   stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+                                   cwd=self.folder, stdout=subprocess.PIPE,
+                                   stderr=subprocess.PIPE, text=True)
         self.addCleanup(process.communicate)
         self.addCleanup(process.kill)
         return process
@@ -101,10 +103,15 @@ class Delivery(Trial):
             self.assertRegex(call[4], r"^&lt;b&gt;&amp;\nzyndle://widget/chord\?root=.*&amp;type=")
             self.assertEqual(list(call[5]), [], "nobody would be there to hear the click")
 
-    def test_a_service_that_does_not_answer_in_time(self):
+    def test_nobody_answers_in_time(self):
         self.schedule(0)
         self.serve("import time; time.sleep(3); ret = 1")
         self.assertIn("1 reminder kept", self.run_to_end(1, "deliver"))
+        with socket.socket(socket.AF_UNIX) as silent:
+            silent.bind(str(self.folder / "bus"))
+            silent.listen()
+            self.environment["DBUS_SESSION_BUS_ADDRESS"] = "unix:path=/proc/self/cwd/bus"
+            self.assertIn("does not answer", self.run_to_end(1, "deliver"))
         self.assertEqual(self.delivered(), 0)
 
     def test_killed_between_posting_and_marking(self):
