@@ -12,11 +12,11 @@ root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
     g++ cmake ninja-build
     gettext
     libcairo2-dev libcli11-dev libfmt-dev libfontconfig-dev libfreetype-dev
-    libhowardhinnant-date-dev libpugixml-dev libsqlite3-dev
-    libre2-dev
-    libsmf-dev
-    nlohmann-json3-dev pkg-config tzdata zlib1g-dev)
-  test_packages=(clang-format libgmock-dev libgtest-dev libre2-dev poppler-utils python3-mido)
+    libhowardhinnant-date-dev libical-dev libpugixml-dev libre2-dev libsdbus-c++-dev libsmf-dev
+    libsqlite3-dev nlohmann-json3-dev pkg-config tzdata zlib1g-dev)
+  test_packages=(
+    clang-format dbus libgmock-dev libgtest-dev poppler-utils python3-dbusmock
+    python3-icalendar python3-mido)
   check_packages=(clang-tidy shellcheck)
 }
 

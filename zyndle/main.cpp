@@ -19,6 +19,8 @@ constexpr const char* jamProgram = "zyndle-jam";
 constexpr zyndle::Companion jam{"jam", "Play a row of chords as music", jamProgram};
 constexpr zyndle::Companion patterns{"patterns", "Show ways to pick, bass lines and grooves",
                                      jamProgram};
+constexpr zyndle::Companion reminders{
+    "reminders", "Be reminded of the chord of the day every morning", "zyndle-reminders"};
 
 // In the order in which zyndle --help lists them.
 void addCommands(CLI::App& app, zyndle::Action& action, zyndle::Arguments arguments) {
@@ -35,6 +37,7 @@ void addCommands(CLI::App& app, zyndle::Action& action, zyndle::Arguments argume
   zyndle::addWidgetCommand(app, action);
   zyndle::addRecentCommand(app, action);
   zyndle::addCollectionsCommand(app, action);
+  zyndle::addCompanionCommand(app, action, arguments, reminders);
   zyndle::addSettingsCommand(app, action);
   zyndle::addRpcCommand(app, action);
 }

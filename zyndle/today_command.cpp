@@ -7,13 +7,13 @@
 
 #include <CLI/CLI.hpp>
 
-#include "TodayChordExtension/widgets/shared_settings.h"
 #include "Tonelake/fingering/chord_position_json.h"
 #include "Tonelake/fingering/chord_positions.h"
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/platform/platform.h"
 #include "Tonelake/today/today_chord_library.h"
 #include "zyndle/calendar_day.h"
+#include "zyndle/category_option.h"
 #include "zyndle/chord_sheet.h"
 #include "zyndle/command_error.h"
 #include "zyndle/drawing.h"
@@ -70,16 +70,6 @@ std::optional<CalendarDay> readDate(const TodayOptions& options) {
   return day;
 }
 
-std::optional<ChordCategory> readCategory(const TodayOptions& options) {
-  if (!options.category) return std::nullopt;
-  const std::optional<ChordCategory> category = ChordCategory::fromRawValue(*options.category);
-  if (!category) {
-    refuse(translated("{0} {1} is not one of {2}", "--category",
-                      tonelake::quoted(*options.category), "beginner, advanced, jazz"));
-  }
-  return category;
-}
-
 Instant chosenMoment(const Calendar& calendar, const std::optional<CalendarDay>& day) {
   if (!day) return calendar.now();
   const std::optional<Instant> moment = momentOf(calendar, *day);
@@ -131,13 +121,11 @@ std::string textOf(const DailyChord& daily, const DrawingStyle& style) {
 void showToday(const TodayOptions& options) {
   checkOutputOptions(options.output);
   const std::optional<CalendarDay> day = readDate(options);
-  const std::optional<ChordCategory> category = readCategory(options);
+  const std::optional<ChordCategory> category = readCategory(options.category);
   installHost(options.output.isForPrograms());
   const tonelake::Platform& platform = tonelake::processPlatform();
-  const DailyChord daily = findDailyChord(
-      *platform.calendar, chosenMoment(*platform.calendar, day),
-      category ? *category
-               : todaychord::SharedSettings(platform.sharedSettings).todayChordCategory());
+  const DailyChord daily = findDailyChord(*platform.calendar, chosenMoment(*platform.calendar, day),
+                                          category ? *category : categoryAsSet());
   const DrawingStyle style = drawingStyle(options.output);
   writeSvg(options.output, daily.sheet.chord, daily.positions, tonelake::Tuning::standard, style);
   if (options.output.svgFile == "-") return;

@@ -5,7 +5,9 @@
 #include <vector>
 
 #include "Tonelake/chords/chord.h"
+#include "Tonelake/foundation/whole_number.h"
 #include "Tonelake/platform/calendar.h"
+#include "Tonelake/platform/platform.h"
 #include "Tonelake/platform/resource_bundle.h"
 #include "Tonelake/today/chord_category.h"
 
@@ -37,6 +39,19 @@ class TodayChordLibrary {
   /// Beginner, then advanced, then jazz: 1098 chords, duplicates kept.
   std::vector<Chord> getAllChords() const;
   std::vector<Chord> getJazzChords() const { return jazzChords; }
+
+  /// Hands one notification for each remaining day of a month to the notification center, between
+  /// 08:00:00 and 08:15:59 local time, with the day's chord in its text. The month is `monthOffset`
+  /// calendar months from now: 0 this one, 1 the next; every day of a past month is over. A request
+  /// that the center does not take becomes one diagnostic line, later and on whatever thread the
+  /// center reports it. Scheduling again replaces the requests of the same category and days. The
+  /// second form asks the ports of another platform than the process's.
+  static void scheduleChordNotificationsForMonth(const TodayChordLibrary& library,
+                                                 ChordCategory selectedCategory,
+                                                 WholeNumber monthOffset);
+  static void scheduleChordNotificationsForMonth(const TodayChordLibrary& library,
+                                                 ChordCategory selectedCategory,
+                                                 WholeNumber monthOffset, const Platform& platform);
 
  private:
   const std::vector<Chord>& chords(ChordCategory category) const;

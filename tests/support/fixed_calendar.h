@@ -8,8 +8,8 @@
 
 namespace tonelake::testing {
 
-/// A calendar whose clock stands still, ahead of UTC by a whole number of hours, and which can be
-/// made to know neither days nor midnights.
+/// A calendar whose clock stands still, ahead of UTC by a whole number of hours, which knows no
+/// month's end and can be made to know neither days nor midnights.
 class FixedCalendar final : public Calendar {
  public:
   explicit FixedCalendar(Instant time, int hoursAhead = 0) : time_(time), ahead_(hoursAhead) {}
@@ -26,9 +26,14 @@ class FixedCalendar final : public Calendar {
     if (!knowsMidnights) return std::nullopt;
     return *utc_->nextMidnight(instant + ahead_) - ahead_;
   }
-  std::optional<YearMonth> month(Instant, long long) const override { return std::nullopt; }
+  std::optional<YearMonth> month(Instant from, long long months) const override {
+    return utc_->month(from + ahead_, months);
+  }
   std::optional<int> lastDayOfMonth(YearMonth) const override { return std::nullopt; }
-  std::optional<Instant> instant(const LocalTime&) const override { return std::nullopt; }
+  std::optional<Instant> instant(const LocalTime& time) const override {
+    const auto moment = utc_->instant(time);
+    return moment ? std::optional(*moment - ahead_) : std::nullopt;
+  }
 
  private:
   Instant time_;

@@ -219,6 +219,8 @@ TEST(Rpc, GivesNotesAndChords) {
 }
 
 TEST(Rpc, GivesFingeringsDaysAndDiagrams) {
+  const std::string march =
+      R"("selectedCategory":"jazz","now":"2025-03-10T09:00:00Z","monthOffset":)";
   const std::string openPosition = major + R"(,"position":[-1,3,2,0,1,0])";
   const std::string standard = R"(,"tuning":["E","A","D","G","B","E"])";
   expectResults({
@@ -256,6 +258,11 @@ TEST(Rpc, GivesFingeringsDaysAndDiagrams) {
       {"chordFilters", R"("label":"Dim")", "", "null"},
       {"chordFilters", R"("label":null)", "/9", R"(["9","minor add 9","minor 6 add 9"])"},
       {"getAllChords", "", "/size", "1098"},
+      {"scheduleChordNotificationsForMonth", march + "0", "/size", "21"},
+      {"scheduleChordNotificationsForMonth", march + "1", "/29/identifier",
+       R"("chordOfTheDay_jazz_2025_4_30")"},
+      {"scheduleChordNotificationsForMonth", march + "1", "/0/dateComponents/hour", "8"},
+      {"scheduleChordNotificationsForMonth", march + "-1", "", "[]"},
       {"ChordView", openPosition + R"(,"fingering":[])", "",
        R"({"scale":1,"baseFret":1,"displayedFrets":[-1,3,2,0,1,0],"dots":[)"
        R"({"stringIndex":1,"x":40.5,"y":82,"finger":-1},)"
@@ -339,6 +346,8 @@ TEST(Rpc, NamesTheParameterThatIsWrong) {
       {"connectVoicings", R"("chords":[{"rootNote":"C"}])", "chords[0].chordType: missing"},
       {"chordOfTheDay", R"("for":"2025-02-29T00:00:00Z","category":"jazz")", "for: "},
       {"chordOfTheDay", R"("for":"2025-02-28T00:00:00Z","category":"Jazz")", "category: \"Jazz\""},
+      {"scheduleChordNotificationsForMonth", R"("selectedCategory":"jazz")",
+       "monthOffset: missing"},
       {"chordOfTheDay",
        R"("for":"2025-02-28T00:00:00Z","category":"jazz","timeZone":"Mars/Olympus")",
        "timeZone: \"Mars/Olympus\""},

@@ -1,5 +1,10 @@
+#include <memory>
+#include <vector>
+
 #include "Tonelake/chords/chord_json.h"
+#include "Tonelake/platform/platform.h"
 #include "Tonelake/today/chord_category.h"
+#include "zyndle/rpc/calendar_at.h"
 #include "zyndle/rpc/encoding.h"
 #include "zyndle/rpc/method_table.h"
 #include "zyndle/rpc/parameters.h"
@@ -27,9 +32,54 @@ json::Value getAllChords(const json::Node&, MethodContext& context) {
   return encodeList(context.todayChordLibrary()->getAllChords(), tonelake::encodeChord);
 }
 
+// Keeps what it is handed and delivers none of it.
+class RequestList final : public tonelake::NotificationCenter {
+ public:
+  void add(const tonelake::NotificationRequest& request, Completion completion) override {
+    requests.push_back(request);
+    completion(std::nullopt);
+  }
+
+  std::vector<tonelake::NotificationRequest> requests;
+};
+
+json::Value encodeRequest(const tonelake::NotificationRequest& request) {
+  const tonelake::LocalTime& time = request.time;
+  return {{"identifier", request.identifier},
+          {"title", request.title},
+          {"body", request.body},
+          {"sound", request.sound},
+          {"badge", request.badge},
+          {"dateComponents",
+           {{"year", time.year},
+            {"month", time.month},
+            {"day", time.day},
+            {"hour", time.hour},
+            {"minute", time.minute},
+            {"second", time.second}}},
+          {"repeats", false}};
+}
+
+json::Value scheduleChordNotificationsForMonth(const json::Node& parameters,
+                                               MethodContext& context) {
+  const auto category = decodeCategory(parameters.member("selectedCategory"));
+  const auto monthOffset = parameters.member("monthOffset").wholeNumber();
+  const auto requests = std::make_shared<RequestList>();
+  tonelake::Platform platform = tonelake::processPlatform();
+  platform.notifications = requests;
+  platform.calendar = context.calendar(parameters);
+  if (const auto now = parameters.optionalMember("now")) {
+    platform.calendar = calendarAt(decodeInstant(*now), platform.calendar);
+  }
+  tonelake::TodayChordLibrary::scheduleChordNotificationsForMonth(*context.todayChordLibrary(),
+                                                                  category, monthOffset, platform);
+  return encodeList(requests->requests, encodeRequest);
+}
+
 constexpr MethodRow rows[] = {
     {"chordOfTheDay", chordOfTheDay},
     {"getAllChords", getAllChords},
+    {"scheduleChordNotificationsForMonth", scheduleChordNotificationsForMonth},
 };
 
 }  // namespace

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Tonelake/today/chord_category.h"
+
+namespace tonelake {
+
+/// Which reminder a notification is: there is one a day in each category.
+struct ReminderKey {
+  ChordCategory category = ChordCategory::beginner;
+  int year = 0;
+  int month = 0;
+  int day = 0;
+
+  friend bool operator==(const ReminderKey&, const ReminderKey&) = default;
+};
+
+/// "chordOfTheDay_jazz_2025_3_7". Kept by notification services and calendars: do not change.
+std::string notificationIdentifier(const ReminderKey& key);
+
+/// The reverse; nothing for any text that notificationIdentifier does not write.
+std::optional<ReminderKey> parseNotificationIdentifier(std::string_view identifier);
+
+}  // namespace tonelake

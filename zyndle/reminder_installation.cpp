@@ -1,0 +1,99 @@
+#include "zyndle/reminder_installation.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include <unistd.h>
+
+#include "Desktop/settings_files.h"
+#include "zyndle/child_process.h"
+#include "zyndle/command_error.h"
+#include "zyndle/output.h"
+#include "zyndle/reminder_units.h"
+
+namespace zyndle {
+namespace {
+
+namespace filesystem = std::filesystem;
+
+std::optional<std::string> absoluteVariable(const char* name) {
+  const char* const value = std::getenv(name);
+  return value != nullptr && *value == '/' ? std::optional<std::string>(value) : std::nullopt;
+}
+
+filesystem::path unitFolder() {
+  if (const auto config = absoluteVariable("XDG_CONFIG_HOME")) return *config + "/systemd/user";
+  if (const auto home = absoluteVariable("HOME")) return *home + "/.config/systemd/user";
+  fail("neither XDG_CONFIG_HOME nor HOME says where the timer belongs");
+}
+
+DeliveryCommand deliveryCommand() {
+  std::error_code error;
+  const filesystem::path program = filesystem::read_symlink("/proc/self/exe", error);
+  if (error) fail("cannot tell where zyndle is installed: " + error.message());
+  return {program.string(), absoluteVariable("XDG_DATA_HOME")};
+}
+
+std::string busAddress() {
+  const char* const address = std::getenv("DBUS_SESSION_BUS_ADDRESS");
+  if (address != nullptr && *address != '\0') return address;
+  return "unix:path=/run/user/" + std::to_string(::getuid()) + "/bus";
+}
+
+bool controlSystemd(std::vector<std::string> arguments) {
+  arguments.insert(arguments.begin(), {"systemctl", "--user"});
+  return runQuietly(arguments);
+}
+
+// Whether a file was there.
+bool removeUnit(const filesystem::path& file) {
+  std::error_code error;
+  const bool wasThere = filesystem::remove(file, error);
+  if (error) fail("cannot delete " + file.string() + ": " + error.message());
+  return wasThere;
+}
+
+// A unit that systemd does not understand would be passed over without a word. Its check needs the
+// folder of a session, without which there is no timer to start either.
+void checkUnits(const filesystem::path& service, const filesystem::path& timer) {
+  if (!isInstalled("systemd-analyze") || !absoluteVariable("XDG_RUNTIME_DIR")) return;
+  if (runQuietly({"systemd-analyze", "--user", "verify", service.string(), timer.string()})) return;
+  fail("systemd does not take the timer; systemd-analyze --user verify " + timer.string() +
+       " says why");
+}
+
+}  // namespace
+
+void installReminders() {
+  const filesystem::path folder = unitFolder();
+  const DeliveryCommand command = deliveryCommand();
+  std::error_code error;
+  filesystem::create_directories(folder, error);
+  if (error) fail("cannot make the folder " + folder.string() + ": " + error.message());
+  const filesystem::path service = folder / serviceUnitName;
+  const filesystem::path timer = folder / timerUnitName;
+  writeFile(service.string(), serviceUnit(command));
+  writeFile(timer.string(), timerUnit());
+  checkUnits(service, timer);
+  std::string text = service.string() + '\n' + timer.string() + '\n';
+  const bool isRunning =
+      controlSystemd({"daemon-reload"}) && controlSystemd({"enable", "--now", timerUnitName});
+  text += isRunning ? "The timer is running.\n"
+                    : "The timer is not running: no systemd answers to this user here.\n";
+  text += "Without systemd, add this line by crontab -e instead:\n";
+  writeStandardOutput(text + cronLine(command, busAddress()) + '\n');
+}
+
+void uninstallReminders() {
+  const filesystem::path folder = unitFolder();
+  controlSystemd({"disable", "--now", timerUnitName});
+  const bool hadTimer = removeUnit(folder / timerUnitName);
+  const bool hadService = removeUnit(folder / serviceUnitName);
+  controlSystemd({"daemon-reload"});
+  writeStandardOutput(hadTimer || hadService ? "The timer is removed.\n"
+                                             : "There was no timer to remove.\n");
+}
+
+}  // namespace zyndle
