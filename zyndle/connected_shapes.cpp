@@ -9,9 +9,11 @@ namespace zyndle {
 using tonelake::Chord;
 using tonelake::Voicings::Voicing;
 
-std::vector<Voicing> connectShapes(const std::vector<Chord>& chords, const Instrument& instrument) {
+std::vector<Voicing> connectShapes(const std::vector<Chord>& chords, const Instrument& instrument,
+                                   tonelake::WholeNumber limit) {
   tonelake::Voicings::VoicingOptions options;
   options.capo = instrument.capo;
+  options.limit = limit;
   std::vector<Voicing> row =
       tonelake::Voicings::connectVoicings(chords, instrument.tuning, options);
   if (!row.empty()) return row;

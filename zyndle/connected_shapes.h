@@ -4,15 +4,17 @@
 
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/fingering/voicing.h"
+#include "Tonelake/foundation/whole_number.h"
 #include "zyndle/drawing.h"
 #include "zyndle/instrument_options.h"
 
 namespace zyndle {
 
-/// A shape for each chord of a row, close to each other. A CommandError that names a chord that
-/// cannot be played.
+/// A shape for each chord of a row, close to each other, out of the easiest `limit` of each chord
+/// (-1 for all). A CommandError that names a chord that cannot be played.
 std::vector<tonelake::Voicings::Voicing> connectShapes(const std::vector<tonelake::Chord>& chords,
-                                                       const Instrument& instrument);
+                                                       const Instrument& instrument,
+                                                       tonelake::WholeNumber limit = -1);
 
 /// The chords with their shapes, for drawing.
 std::vector<NamedShape> nameShapes(const std::vector<tonelake::Chord>& chords,

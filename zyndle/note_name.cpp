@@ -12,7 +12,8 @@ using tonelake::replaceAll;
 
 std::optional<Note> parseNoteName(std::string_view text) {
   if (text.empty()) return std::nullopt;
-  const std::string signs = replaceAll(replaceAll(text.substr(1), "#", "♯"), "b", "♭");
+  std::string signs = replaceAll(text.substr(1), "#", "♯");
+  signs = replaceAll(replaceAll(signs, "b", "♭"), "B", "♭");
   return Note::fromRawValue(tonelake::uppercase(text.front()) + replaceAll(signs, "♯♯", "𝄪"));
 }
 
