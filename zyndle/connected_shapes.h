@@ -4,6 +4,7 @@
 
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/fingering/voicing.h"
+#include "Tonelake/foundation/whole_number.h"
 #include "zyndle/drawing.h"
 #include "zyndle/instrument_options.h"
 

@@ -26,13 +26,7 @@ std::vector<std::string_view> wordsOf(std::string_view text) {
   if (!hasBlanks && text.find(hyphen) == std::string_view::npos) {
     return tonelake::splitCharacters(text);
   }
-  std::vector<std::string_view> words;
-  for (std::size_t begin = 0; (begin = text.find_first_not_of(separators, begin)) < text.size();) {
-    const std::size_t end = std::min(text.find_first_of(separators, begin), text.size());
-    words.push_back(text.substr(begin, end - begin));
-    begin = end;
-  }
-  return words;
+  return tonelake::splitWords(text, separators);
 }
 
 std::optional<std::int8_t> parseFret(std::string_view word) {

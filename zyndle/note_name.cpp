@@ -12,7 +12,8 @@ using tonelake::replaceAll;
 
 std::optional<Note> parseNoteName(std::string_view text) {
   if (text.empty()) return std::nullopt;
-  const std::string signs = replaceAll(replaceAll(text.substr(1), "#", "♯"), "b", "♭");
+  std::string signs = replaceAll(text.substr(1), "#", "♯");
+  signs = replaceAll(replaceAll(signs, "b", "♭"), "B", "♭");
   return Note::fromRawValue(tonelake::uppercase(text.front()) + replaceAll(signs, "♯♯", "𝄪"));
 }
 
@@ -20,14 +21,13 @@ std::vector<Note> readNoteNames(const std::vector<std::string>& words) {
   constexpr std::string_view separators = " ,;-|\t\r\n";
   const std::string text = tonelake::join(words, " ");
   std::vector<Note> notes;
-  std::size_t begin = text.find_first_not_of(separators);
-  while (begin != std::string::npos) {
-    const std::size_t end = std::min(text.find_first_of(separators, begin), text.size());
-    const std::string name = text.substr(begin, end - begin);
+  for (const std::string_view name : tonelake::splitWords(text, separators)) {
     const std::optional<Note> note = parseNoteName(name);
-    if (!note) refuse(tonelake::quoted(name) + " is not a note name; notes look like C, F# or Bb");
+    if (!note) {
+      refuse(translated("{} is not a note name; notes look like C, F# or Bb",
+                        tonelake::quoted(name)));
+    }
     notes.push_back(*note);
-    begin = text.find_first_not_of(separators, end);
   }
   return notes;
 }

@@ -10,7 +10,7 @@
 namespace zyndle {
 
 /// The note that a whole text names, its letter in any case and its signs as ♯, ♭ and 𝄪 or as "#",
-/// "b" and "##": "eb", "F##".
+/// "b" and "##": "eb", "EB", "F##".
 std::optional<tonelake::Note> parseNoteName(std::string_view text);
 
 /// The notes that the words of an argument name, with blanks, commas or hyphens between them. A

@@ -36,7 +36,8 @@ constexpr const char* introduction =
     R"(A numeral is a chord on that step of the key, in capitals major, in small
 letters minor; b and # before it lower and raise it. A key is a note, with
 major or minor: without either it is minor when the progression has an i.
-Known progressions, see zyndle progressions, are described in words.
+Known progressions, see zyndle progressions, are described in words. Every chord
+is drawn in its easiest shape; zyndle connect finds shapes that lie close.
 
 )";
 
@@ -46,6 +47,10 @@ Examples:
   zyndle progression I bVII IV I --key D
   zyndle progression i-VI-III-VII --key "F# minor"
   zyndle progression ii-V-I --key Bb --svg two-five-one.svg)";
+
+// Learners meet progressions here: the shape that everybody knows counts for more than the shortest
+// way to the next one, which zyndle connect finds.
+constexpr tonelake::WholeNumber shapesToChooseFrom = 1;
 
 struct ProgressionOptions {
   std::vector<std::string> numerals;
@@ -84,7 +89,8 @@ ShownProgression makeShown(const ProgressionOptions& options, const Instrument& 
   if (chords.size() != tonelake::split(text, '-').size()) {
     fail("one of the chords " + text + " cannot be written in " + nameOfKey(key));
   }
-  return {key, progression, chords, connectShapes(chords, instrument), instrument};
+  return {key, progression, chords, connectShapes(chords, instrument, shapesToChooseFrom),
+          instrument};
 }
 
 std::string headingOf(const ShownProgression& shown) {

@@ -37,16 +37,12 @@ std::string readProgression(const std::vector<std::string>& words) {
   // Dashes of typeset text part numerals as hyphens do.
   const std::string text = replaceAll(replaceAll(tonelake::join(words, " "), "–", "-"), "—", "-");
   std::vector<std::string> numerals;
-  std::size_t begin = text.find_first_not_of(separators);
-  while (begin != std::string::npos) {
-    const std::size_t end = std::min(text.find_first_of(separators, begin), text.size());
-    const std::string typed = text.substr(begin, end - begin);
+  for (const std::string_view typed : tonelake::splitWords(text, separators)) {
     numerals.push_back(withSigns(typed));
     if (!isNumeral(withoutSigns(numerals.back()))) {
       refuse(tonelake::quoted(typed) +
              " is not a plain triad: I to VII, small letters for minor, b or # before it");
     }
-    begin = text.find_first_not_of(separators, end);
   }
   if (numerals.empty()) refuse("NUMERALS names no chord");
   return tonelake::join(numerals, "-");

@@ -27,7 +27,7 @@ using tonelake::ChordProgression;
 using tonelake::MusicStyles;
 namespace ChordProgressions = tonelake::ChordProgressions;
 
-constexpr const char* description = "List well-known progressions and what they do to the listener";
+constexpr const char* description = "List well-known progressions and what they do";
 
 constexpr const char* examples = R"(
 Examples:
@@ -143,7 +143,7 @@ std::string textOf(const std::vector<Listing>& listings, const DrawingStyle& sty
     }
   }
   if (!text.empty()) return text;
-  return "No progression is listed for it; the styles in use are\n" +
+  return "No progression of this key and style is listed; the styles in use are\n" +
          paragraph(tonelake::join(usedStyles(), ", "), 2);
 }
 

@@ -26,15 +26,15 @@ std::span<const ChordProgressionRow> majorProgressionRows() {
 
     {"I-V-ii-IV", {Style::pop, Style::rock},
      "A close cousin of the Axis progression, with the supertonic (--ii--) where the relative "
-     "minor would stand. Coming right after the dominant (--V--), it sidesteps the homecoming that "
-     "your ear expects. Since it shares two notes with the subdominant (--IV--), the second half "
-     "floats more than it pushes, and the loop stays gentle and undecided."},
+     "minor would stand. Coming right after the dominant (--V--), that chord sidesteps the "
+     "homecoming that your ear expects. Since it shares two notes with the subdominant (--IV--), "
+     "the second half floats more than it pushes, and the loop stays gentle and undecided."},
 
     {"I-vi-V-IV", {Style::pop, Style::ballad},
      "A major-key loop where the dominant (--V--) does not lead straight home. It gives way to the "
      "subdominant (--IV--) instead, which takes the edge off the tension and lets the music settle "
-     "softly into (--I--). With the wistful relative minor (--vi--) so near the beginning, the "
-     "whole has the bittersweet calm of a ballad."},
+     "softly back home (--I--). With the wistful relative minor (--vi--) so near the beginning, "
+     "the whole has the bittersweet calm of a ballad."},
 
     {"I-V-IV-V", {Style::rock, Style::pop},
      "Begins at the home chord (--I--) and then hovers around the dominant (--V--). The dip to the "
@@ -142,7 +142,8 @@ std::span<const ChordProgressionRow> minorProgressionRows() {
     {"i-iv-V-i", {Style::classical, Style::dramatic},
      "Similar to the basic minor progression, but with a major dominant (--V--). Its third is the "
      "leading tone of the harmonic minor scale, a half step below the home note. After the "
-     "brooding subdominant (--iv--) the return to (--i--) therefore sounds urgent and final."},
+     "brooding subdominant (--iv--) the return to the home chord (--i--) therefore sounds urgent "
+     "and final."},
 
     {"i-v-VI-v", {Style::folk, Style::ballad},
      "Alternates between dark tension (--v--) and calmer places: the settled gloom of home (--i--) "

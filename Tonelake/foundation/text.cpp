@@ -48,6 +48,16 @@ std::vector<std::string_view> split(std::string_view text, char separator) {
   return pieces;
 }
 
+std::vector<std::string_view> splitWords(std::string_view text, std::string_view separators) {
+  std::vector<std::string_view> words;
+  for (std::size_t begin = 0; (begin = text.find_first_not_of(separators, begin)) < text.size();) {
+    const std::size_t end = std::min(text.find_first_of(separators, begin), text.size());
+    words.push_back(text.substr(begin, end - begin));
+    begin = end;
+  }
+  return words;
+}
+
 std::string join(const std::vector<std::string>& pieces, std::string_view separator) {
   std::string joined;
   for (const std::string& piece : pieces) {

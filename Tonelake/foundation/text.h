@@ -10,6 +10,9 @@ namespace tonelake {
 /// The pieces of `text` between separators, empty ones included; "" gives one empty piece.
 std::vector<std::string_view> split(std::string_view text, char separator);
 
+/// What stands between runs of any of the bytes in `separators`: " C, G " and " ," give {"C","G"}.
+std::vector<std::string_view> splitWords(std::string_view text, std::string_view separators);
+
 /// The pieces with `separator` between them: {"E","A"} and "," give "E,A".
 std::string join(const std::vector<std::string>& pieces, std::string_view separator);
 

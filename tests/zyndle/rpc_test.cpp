@@ -263,6 +263,21 @@ TEST(Rpc, GivesFingeringsDaysAndDiagrams) {
        R"("chordOfTheDay_jazz_2025_4_30")"},
       {"scheduleChordNotificationsForMonth", march + "1", "/0/dateComponents/hour", "8"},
       {"scheduleChordNotificationsForMonth", march + "-1", "", "[]"},
+      {"findChordsExact", R"("notes":"E, G, C")", "", "[" + overE.substr(8) + "]"},
+      {"findChordsMatching", R"("notes":"c,e,g,g")", "/0", major.substr(8)},
+      {"getChordProgressionsDataForChordType", R"("chordType":"minor")", "/7/styles",
+       R"(["Melancholic","Folk"])"},
+      {"getChordProgressionsDataForChordType", R"("chordType":"Minor")", "", "[]"},
+      {"getChordsForChordProgression", major + R"(,"progression":"abc-I-\u0000-♭♭♭I")", "",
+       "[" + major.substr(8) + "]"},
+      {"getRelatedChordsForKeySignature", R"("keySignature":)" + major.substr(8), "/4",
+       R"({"rootNote":"D","chordType":"minor","variant":0})"},
+      {"getDescription",
+       major + R"(,"for":{"progression":"","description":"--♭VII--!","styles":[]})", "",
+       R"("B♭ major!")"},
+      {"getChordTitles",
+       major + R"(,"for":{"progression":"ii-V","description":"","styles":["R&B"]})", "",
+       R"(["D minor","G major"])"},
       {"ChordView", openPosition + R"(,"fingering":[])", "",
        R"({"scale":1,"baseFret":1,"displayedFrets":[-1,3,2,0,1,0],"dots":[)"
        R"({"stringIndex":1,"x":40.5,"y":82,"finger":-1},)"
@@ -310,6 +325,11 @@ TEST(Rpc, NamesTheParameterThatIsWrong) {
   const std::string noVariant = R"("chord":{"rootNote":"C","chordType":"major"})";
   const std::string allOpen = major + R"(,"position":[0,0,0,0,0,0])";
   expectRefusals({
+      {"getChordTitles",
+       R"("chord":{"rootNote":"C","chordType":"major","variant":0},)"
+       R"("for":{"progression":"I","description":"","styles":["rock"]})",
+       "for.styles[0]: expected a style of music"},
+      {"findChordsExact", R"("notes":["C"])", "notes: expected a text"},
       {"Note", R"("rawValue":7)", "rawValue: expected a text"},
       {"Note", R"("rawValue":null)", "rawValue: expected a text"},
       {"getNote", R"("from":0)", "from: a MIDI"},

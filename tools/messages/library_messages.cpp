@@ -7,10 +7,12 @@
 #include <string_view>
 
 #include "Tonelake/chords/inversion.h"
+#include "Tonelake/content/chord_progression_table.h"
 #include "Tonelake/content/chord_text_tables.h"
 #include "Tonelake/content/curated_chord_lists.h"
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/today/chord_category.h"
+#include "Tonelake/today/notification_texts.h"
 
 namespace {
 
@@ -61,6 +63,23 @@ void writeChordTexts() {
   writeChordTexts("The description for jazz guitarists", tonelake::jazzChordDescriptionRows());
 }
 
+void writeProgressions(std::span<const tonelake::ChordProgressionRow> rows) {
+  for (const tonelake::ChordProgressionRow& row : rows) {
+    writeMessage("The description of the progression " + std::string(row.progression) +
+                     "; (--V--) and so on become chords: (G major)",
+                 row.descriptionKey);
+  }
+}
+
+void writeReminders() {
+  for (const std::string_view title : tonelake::notificationTitles) {
+    writeMessage("A reminder of the chord of the day, its title", title);
+  }
+  for (const std::string_view body : tonelake::notificationBodies) {
+    writeMessage("A reminder of the chord of the day, %s is the name of a chord", body);
+  }
+}
+
 }  // namespace
 
 int main() {
@@ -69,5 +88,8 @@ int main() {
   writeCategories();
   writeCuratedLists();
   writeChordTexts();
+  writeProgressions(tonelake::majorProgressionRows());
+  writeProgressions(tonelake::minorProgressionRows());
+  writeReminders();
   return 0;
 }
