@@ -17,10 +17,10 @@
 #include "zyndle/command_error.h"
 #include "zyndle/connected_shapes.h"
 #include "zyndle/host.h"
+#include "zyndle/key_chords.h"
 #include "zyndle/number_option.h"
 #include "zyndle/output.h"
 #include "zyndle/pattern_names.h"
-#include "zyndle/progression.h"
 #include "zyndle/text_layout.h"
 
 namespace zyndle {
@@ -201,7 +201,7 @@ void jam(const JamOptions& options) {
   const bool writesToOutput = options.file == "-";
   installHost(writesToOutput);
   const Accompaniment piece =
-      readAccompaniment(options, readProgression(options.chords, options.key, options.ascii));
+      readAccompaniment(options, readSongChords(options.chords, options.key, options.ascii));
   std::optional<desktop::Synthesizer> synthesizer;
   if (options.play || kind == FileKind::wav) synthesizer = readSynthesizer(options);
   const tonelake::Performance performance = tonelake::perform(piece);

@@ -24,8 +24,8 @@ std::vector<Note> readNoteNames(const std::vector<std::string>& words) {
   for (const std::string_view name : tonelake::splitWords(text, separators)) {
     const std::optional<Note> note = parseNoteName(name);
     if (!note) {
-      refuse(translated("{} is not a note name; notes look like C, F# or Bb",
-                        tonelake::quoted(name)));
+      refuse(
+          translated("{} is not a note name; notes look like C, F# or Bb", tonelake::quoted(name)));
     }
     notes.push_back(*note);
   }

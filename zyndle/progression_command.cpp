@@ -16,6 +16,7 @@
 #include "zyndle/drawing.h"
 #include "zyndle/host.h"
 #include "zyndle/instrument_options.h"
+#include "zyndle/key_chords.h"
 #include "zyndle/key_name.h"
 #include "zyndle/output_options.h"
 #include "zyndle/progression_text.h"
@@ -75,22 +76,10 @@ ChordProgression lookUp(const std::string& progression, const Chord& key) {
   return {progression, "", {}};
 }
 
-// The home chord of a key that nobody named.
-std::string usualKey(const std::string& mode) {
-  return mode == "minor" ? "A" : "C";
-}
-
 ShownProgression makeShown(const ProgressionOptions& options, const Instrument& instrument) {
-  const std::string text = readProgression(options.numerals);
-  const std::string mode = modeOf(text);
-  const Chord key = readKey(options.key.value_or(usualKey(mode)), mode);
-  const ChordProgression progression = lookUp(text, key);
-  const std::vector<Chord> chords = ChordProgressions::getChordsForChordProgression(key, text);
-  if (chords.size() != tonelake::split(text, '-').size()) {
-    fail("one of the chords " + text + " cannot be written in " + nameOfKey(key));
-  }
-  return {key, progression, chords, connectShapes(chords, instrument, shapesToChooseFrom),
-          instrument};
+  const KeyChords read = readKeyChords(options.numerals, options.key);
+  return {read.key, lookUp(read.progression, read.key), read.chords,
+          connectShapes(read.chords, instrument), instrument};
 }
 
 std::string headingOf(const ShownProgression& shown) {
