@@ -1,22 +1,15 @@
 #include "zyndle/command_line.h"
 
+#include <csignal>
+#include <exception>
 #include <string>
 #include <vector>
 
 #include <CLI/CLI.hpp>
 
 #include "Tonelake/foundation/text.h"
-#include "zyndle/chord_command.h"
-#include "zyndle/collections_command.h"
-#include "zyndle/command.h"
-#include "zyndle/connect_command.h"
+#include "zyndle/command_error.h"
 #include "zyndle/output.h"
-#include "zyndle/recent_command.h"
-#include "zyndle/rpc_command.h"
-#include "zyndle/settings_command.h"
-#include "zyndle/today_command.h"
-#include "zyndle/voicings_command.h"
-#include "zyndle/widget_command.h"
 
 namespace zyndle {
 namespace {
@@ -89,9 +82,8 @@ std::string describe(const CLI::App& app, const CLI::ParseError& error) {
   return describeArguments(command, error) + "; see " + fullName(command) + " --help";
 }
 
-}  // namespace
-
-void runCommandLine(int argc, const char* const* argv) {
+// Reads the command line and does what it asks for.
+void run(Arguments arguments, AddCommands addCommands) {
   CLI::App app(description, "zyndle");
   Action action;
   app.set_help_flag("--help,-h", "Tell how to use this");
@@ -100,17 +92,9 @@ void runCommandLine(int argc, const char* const* argv) {
   app.get_formatter()->label("REQUIRED", "");
   app.footer(examples);
   app.require_subcommand(1);
-  addTodayCommand(app, action);
-  addChordCommand(app, action);
-  addVoicingsCommand(app, action);
-  addConnectCommand(app, action);
-  addWidgetCommand(app, action);
-  addRecentCommand(app, action);
-  addCollectionsCommand(app, action);
-  addSettingsCommand(app, action);
-  addRpcCommand(app, action);
+  addCommands(app, action, arguments);
   try {
-    app.parse(argc, argv);
+    app.parse(static_cast<int>(arguments.size()), arguments.data());
   } catch (const CLI::CallForHelp&) {
     return writeStandardOutput(app.help());
   } catch (const CLI::CallForVersion&) {
@@ -119,6 +103,23 @@ void runCommandLine(int argc, const char* const* argv) {
     refuse(describe(app, error));
   }
   action();
+}
+
+}  // namespace
+
+int runProgram(int argc, const char* const* argv, AddCommands addCommands) {
+  // A reader that goes away is an error to handle, not a reason to be killed.
+  std::signal(SIGPIPE, SIG_IGN);
+  try {
+    run({argv, static_cast<std::size_t>(argc)}, addCommands);
+  } catch (const CommandError& error) {
+    reportProblem(error.what());
+    return static_cast<int>(error.status());
+  } catch (const std::exception& error) {
+    reportProblem(error.what());
+    return static_cast<int>(ExitStatus::failure);
+  }
+  return static_cast<int>(ExitStatus::success);
 }
 
 }  // namespace zyndle

@@ -1,20 +1,31 @@
-#include <csignal>
-#include <exception>
-
+#include "zyndle/chord_command.h"
+#include "zyndle/collections_command.h"
 #include "zyndle/command_line.h"
-#include "zyndle/output.h"
+#include "zyndle/connect_command.h"
+#include "zyndle/recent_command.h"
+#include "zyndle/rpc_command.h"
+#include "zyndle/settings_command.h"
+#include "zyndle/today_command.h"
+#include "zyndle/voicings_command.h"
+#include "zyndle/widget_command.h"
+
+namespace {
+
+// In the order in which zyndle --help lists them.
+void addCommands(CLI::App& app, zyndle::Action& action, zyndle::Arguments /*arguments*/) {
+  zyndle::addTodayCommand(app, action);
+  zyndle::addChordCommand(app, action);
+  zyndle::addVoicingsCommand(app, action);
+  zyndle::addConnectCommand(app, action);
+  zyndle::addWidgetCommand(app, action);
+  zyndle::addRecentCommand(app, action);
+  zyndle::addCollectionsCommand(app, action);
+  zyndle::addSettingsCommand(app, action);
+  zyndle::addRpcCommand(app, action);
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
-  // A reader that goes away is an error to handle, not a reason to be killed.
-  std::signal(SIGPIPE, SIG_IGN);
-  try {
-    zyndle::runCommandLine(argc, argv);
-  } catch (const zyndle::CommandError& error) {
-    zyndle::reportProblem(error.what());
-    return static_cast<int>(error.status());
-  } catch (const std::exception& error) {
-    zyndle::reportProblem(error.what());
-    return static_cast<int>(zyndle::ExitStatus::failure);
-  }
-  return static_cast<int>(zyndle::ExitStatus::success);
+  return zyndle::runProgram(argc, argv, addCommands);
 }

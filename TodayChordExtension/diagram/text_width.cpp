@@ -27,15 +27,16 @@ constexpr WidthClass widthClasses[] = {
 };
 // clang-format on
 constexpr double commonWidth = 0.68;  // every other letter, digit and sign of western languages
-constexpr double widestWidth = 1.05;  // East Asian letters, and what is not known better
+constexpr double eastAsianWidth = 1.05;
+constexpr double foreignWidth = 1.25;  // other scripts: Ж in the usual fonts
 
 double characterWidth(std::string_view character) {
   for (const WidthClass& widthClass : widthClasses) {
     if (widthClass.characters.find(character) != std::string_view::npos) return widthClass.width;
   }
-  // From U+0180 on, which UTF-8 writes as C6 80, come other scripts: Ж is 0.93 wide, 日 fills a
-  // square.
-  return character >= "\xC6\x80" ? widestWidth : commonWidth;
+  // As UTF-8 writes them: other scripts begin at U+0180, those that fill squares at U+2E80.
+  if (character >= "\xE2\xBA\x80") return eastAsianWidth;
+  return character >= "\xC6\x80" ? foreignWidth : commonWidth;
 }
 
 }  // namespace

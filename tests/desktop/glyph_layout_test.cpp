@@ -65,7 +65,7 @@ TEST(GlyphLayout, IsNeverWiderThanScenesReckon) {
     for (char first = ' '; first <= '~'; ++first) {
       for (char second = ' '; second <= '~'; ++second) expectRoom({first, second}, font);
     }
-    for (const char* text : {"♭", "♮", "♯", "𝄪", "𝄫", "Ж", "日本"}) expectRoom(text, font);
+    for (const char* text : {"♭", "♮", "♯", "𝄪", "𝄫"}) expectRoom(text, font);
   }
 }
 
