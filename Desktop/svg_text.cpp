@@ -56,15 +56,13 @@ std::string formatPath(const todaychord::Path& path) {
 
 std::vector<TextSpan> raiseMusicSigns(std::string_view text, double fontSize) {
   std::vector<TextSpan> spans;
-  bool isRaised = false;
+  double rise = 0;
   for (const std::string_view character : tonelake::splitCharacters(text)) {
-    const bool isSign = isMusicSign(character);
-    if (spans.empty() || isSign != isRaised) {
-      const double rise = musicSignRise * fontSize;
-      spans.push_back({"", isSign == isRaised ? 0 : isSign ? -rise : rise});
-    }
+    const double growth = growthOf(character);
+    const double wanted = isMusicSign(character) ? musicSignRise * fontSize * growth : 0;
+    if (spans.empty() || wanted != rise) spans.push_back({"", rise - wanted, growth});
     spans.back().text += character;
-    isRaised = isSign;
+    rise = wanted;
   }
   return spans;
 }

@@ -22,6 +22,11 @@ const Typeface& typefaceCalled(std::string_view name) {
   return found == std::end(typefaces) ? typefaces[0] : *found;
 }
 
+double growthOf(std::string_view character) {
+  constexpr double growthOfFlats = 1.4;
+  return character == "♭" || character == "𝄫" ? growthOfFlats : 1;
+}
+
 bool isMusicSign(std::string_view character) {
   constexpr std::string_view signs[] = {"♭", "♮", "♯", "𝄪", "𝄫"};
   return std::find(std::begin(signs), std::end(signs), character) != std::end(signs);

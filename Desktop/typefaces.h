@@ -21,6 +21,10 @@ inline constexpr const char* musicSignsFile = "NotoMusic-Regular.ttf";
 /// How much those signs are raised, in font sizes: they hang low beside our letters.
 inline constexpr double musicSignRise = 0.12;
 
+/// How much larger than the letters around it a character is set. The flats of music faces are too
+/// small and thin beside our letters.
+double growthOf(std::string_view character);
+
 /// Whether `character`, one of UTF-8, is ♭ ♮ ♯ 𝄪 or 𝄫.
 bool isMusicSign(std::string_view character);
 

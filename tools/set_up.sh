@@ -13,7 +13,9 @@ root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
     libcairo2-dev libcli11-dev libfmt-dev libfontconfig-dev libfreetype-dev
     libhowardhinnant-date-dev libpugixml-dev libsqlite3-dev
     nlohmann-json3-dev pkg-config tzdata zlib1g-dev)
-  test_packages=(clang-format libgmock-dev libgtest-dev poppler-utils)
+  test_packages=(
+    clang-format libgmock-dev libgtest-dev poppler-utils
+    chromium python3)
   check_packages=(clang-tidy shellcheck)
 }
 

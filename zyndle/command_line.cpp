@@ -24,6 +24,7 @@ constexpr const char* examples = R"(Examples:
   zyndle voicings C/E              every way to play it, easiest first
   zyndle connect "C G/B Am F"      shapes that are close to each other
   zyndle widget chord > today.svg  a widget as a picture
+  zyndle gallery DIR               all widgets as a page
   zyndle settings list             what you have set
   zyndle COMMAND --help            more about a command)";
 

@@ -78,7 +78,7 @@ TEST(GlyphLayout, TakesLettersThatAFaceLacksFromOthers) {
   for (const Case& each : std::vector<Case>{{"", {}},
                                             {"C major", {"C major"}},
                                             {"B♭m", {"B", "♭", "m"}},
-                                            {"♯♭𝄪", {"♯♭𝄪"}},
+                                            {"♯♭𝄪", {"♯", "♭", "𝄪"}},
                                             {"a\tb\n", {"a b "}},
                                             {"a\u200D\uFE0Fb\uFEFF", {"ab"}},
                                             {"a\xFF", {"a", unknown}},
@@ -97,7 +97,8 @@ TEST(GlyphLayout, RaisesMusicSigns) {
   const GlyphLine line = layOutGlyphs("B♭m", medium);
   ASSERT_EQ(line.runs.size(), 3U);
   EXPECT_EQ(line.runs[0].glyphs[0].y, 0);
-  EXPECT_EQ(line.runs[1].glyphs[0].y, -12);
+  EXPECT_DOUBLE_EQ(line.runs[1].glyphs[0].y, -12 * 1.4);
+  EXPECT_EQ(line.runs[1].size, 140);
   EXPECT_EQ(line.runs[2].glyphs[0].y, 0);
   EXPECT_NEAR(line.runs[2].glyphs[0].x, widthOf("B") + widthOf("♭"), 1e-9);
 }
