@@ -65,7 +65,8 @@ class LineSetter {
 
   void add(std::string_view character) {
     const auto [face, glyph] = findGlyph(character, preferred_, typeface_.weight);
-    const double size = size_ * growthOf(character);
+    const MusicSign setting = settingOf(character);
+    const double size = size_ * setting.growth;
     if (line_.runs.empty() || line_.runs.back().face != face || line_.runs.back().size != size) {
       line_.runs.push_back({face, size, "", {}, {}});
     }
@@ -74,9 +75,8 @@ class LineSetter {
       const auto before = static_cast<unsigned>(run.glyphs.back().index);
       line_.width += face->kerningBetween(before, glyph) * size;
     }
-    const double rise = isMusicSign(character) ? musicSignRise * size : 0;
     run.text += character;
-    run.glyphs.push_back({glyph, line_.width, -rise});
+    run.glyphs.push_back({glyph, line_.width, -setting.rise * size_});
     run.clusters.push_back({static_cast<int>(character.size()), 1});
     line_.width += face->advanceOf(glyph) * size;
   }

@@ -58,11 +58,12 @@ std::vector<TextSpan> raiseMusicSigns(std::string_view text, double fontSize) {
   std::vector<TextSpan> spans;
   double rise = 0;
   for (const std::string_view character : tonelake::splitCharacters(text)) {
-    const double growth = growthOf(character);
-    const double wanted = isMusicSign(character) ? musicSignRise * fontSize * growth : 0;
-    if (spans.empty() || wanted != rise) spans.push_back({"", rise - wanted, growth});
+    const MusicSign setting = settingOf(character);
+    if (spans.empty() || setting.rise != rise) {
+      spans.push_back({"", (rise - setting.rise) * fontSize, setting.growth});
+    }
     spans.back().text += character;
-    rise = wanted;
+    rise = setting.rise;
   }
   return spans;
 }
