@@ -64,9 +64,9 @@ class Gallery(unittest.TestCase):
             if "link" in item:
                 yield item["link"]
 
-    def open_gallery(self, name, width=1360):
+    def open_gallery(self, name, width=1360, file="index.html"):
         self.zyndle("gallery", f"{self.folder}/{name}")
-        self.browser.open(f"file://{self.folder}/{name}/index.html", width, 900)
+        self.browser.open(f"file://{self.folder}/{name}/{file}", width, 900)
         if PICTURES:
             self.browser.picture(f"{PICTURES}/gallery-{name}-{width}.png")
 
@@ -109,7 +109,7 @@ class Gallery(unittest.TestCase):
     def test_plucks_a_string(self):
         # window.reached: how far from its place the string has been seen, in points.
         watch = """(() => {
-          const path = document.querySelector('.chord.medium .string-4 path');
+          const path = document.querySelector('SELECTOR');
           const numbers = () => path.getAttribute('d').match(/-?[\\d.]+/g).map(Number);
           const [rest] = numbers();
           window.path = path;
@@ -118,13 +118,15 @@ class Gallery(unittest.TestCase):
             window.reached = Math.max(window.reached, Math.abs(numbers()[2] - rest));
           }).observe(path, {attributes: true});
         })()"""
-        for is_reduced in (False, True):
-            with self.subTest(is_reduced=is_reduced):
+        page = ("index.html", ".chord.medium .string-4 path")
+        picture = ("chord-medium.svg", ".string-4 path")
+        for (file, selector), is_reduced in ((page, False), (page, True), (picture, False)):
+            with self.subTest(file=file, is_reduced=is_reduced):
                 self.browser.reduce_motion(is_reduced)
-                self.open_gallery("pluck")
-                self.browser.evaluate(watch)
+                self.open_gallery("pluck", file=file)
+                self.browser.evaluate(watch.replace("SELECTOR", selector))
                 rest = self.browser.evaluate("path.getAttribute('d')")
-                x, y = self.centre_of(".chord.medium .string-4 path")
+                x, y = self.centre_of(selector)
                 for step in (-3, 3):
                     self.browser.mouse("mouseMoved", x + step, y)
                 self.assertNotEqual(self.browser.evaluate("path.style.stroke"), "")
