@@ -48,6 +48,9 @@ TEST_F(Language, IsTheOneThatTheUserChose) {
       {{"LANGUAGE=de"}, {"chord", "C", "--lang=es_MX"}, spanish},
       {{}, {"--lang", "de", "chord", "--help"}, "Optionen:"},
       {{}, {"--lang", "es", "--help"}, "zyndle [OPCIONES] ORDEN"},
+      {{"LANGUAGE=de"}, {"chord", "C", "--ascii"}, "  Toene      C, E, G\n"},
+      {{"LANGUAGE=es"}, {"chord", "F#", "--ascii"}, "sonido claro y armonioso que se siente"},
+      {{"LANGUAGE=es"}, {"chord", "C", "--ascii"}, "Clasica"},
       {{}, {"--lang", "de", "pack", "metal"}, "Riff drohen soll"},
       {{}, {"--lang", "de", "widget", "launcher"}, "Stimmgerät"},
   };
