@@ -53,7 +53,13 @@ SplitArguments splitArguments(Arguments arguments) {
 
 std::string readLanguage(const std::string& locale) {
   const std::optional<std::string> language = desktop::languageOfLocale(locale);
-  if (language) return *language;
+  if (language) {
+    // Asked for by name; what the environment merely prefers gives way to English in silence.
+    const auto missing = desktop::missingCatalogue(*language);
+    if (missing)
+      fail(translated("the texts of {0} are missing: there is no {1}", *language, *missing));
+    return *language;
+  }
   refuse(translated("{0} {1} is not one of {2}", option, tonelake::quoted(locale),
                     tonelake::join(desktop::knownLanguages(), ", ")));
 }
