@@ -10,10 +10,10 @@ root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
 {
   zyndle_packages=(
     g++ cmake ninja-build
-    gettext
     libcairo2-dev libcli11-dev libfmt-dev libfontconfig-dev libfreetype-dev
     libhowardhinnant-date-dev libpugixml-dev libsqlite3-dev
-    nlohmann-json3-dev pkg-config tzdata zlib1g-dev)
+    nlohmann-json3-dev pkg-config tzdata zlib1g-dev
+    gettext)
   test_packages=(clang-format libgmock-dev libgtest-dev libre2-dev poppler-utils)
   check_packages=(clang-tidy shellcheck)
 }

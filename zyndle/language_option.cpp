@@ -60,6 +60,7 @@ std::string readLanguage(const std::string& locale) {
       fail(translated("the texts of {0} are missing: there is no {1}", *language, *missing));
     return *language;
   }
+  // TRANSLATORS: {0} is an option, {1} what was typed for it, {2} a list: --lang "x", "en, de".
   refuse(translated("{0} {1} is not one of {2}", option, tonelake::quoted(locale),
                     tonelake::join(desktop::knownLanguages(), ", ")));
 }
