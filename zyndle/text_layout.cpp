@@ -32,11 +32,6 @@ std::string fill(std::string start, const std::vector<TextPiece>& pieces) {
   return text + line + '\n';
 }
 
-std::vector<std::string> wordsOf(std::string_view sentences) {
-  const auto words = tonelake::split(sentences, ' ');
-  return {words.begin(), words.end()};
-}
-
 }  // namespace
 
 std::string labelledRow(std::string_view label, const std::vector<std::string>& items) {
