@@ -55,8 +55,8 @@ void paintText(cairo_t* context, const todaychord::TextItem& item, CairoTarget t
   cairo_translate(context, x, drawable(item.baseline.y));
   cairo_set_source(context, makePattern(item.color, 1).get());
   cairo_set_font_options(context, unhintedLetters().get());
-  cairo_set_font_size(context, size);
   for (const GlyphRun& run : line.runs) {
+    cairo_set_font_size(context, run.size);
     cairo_set_font_face(context, run.face->cairoFace());
     target == CairoTarget::document ? showRun(context, run) : fillRun(context, run);
   }

@@ -65,19 +65,20 @@ class LineSetter {
 
   void add(std::string_view character) {
     const auto [face, glyph] = findGlyph(character, preferred_, typeface_.weight);
-    if (line_.runs.empty() || line_.runs.back().face != face) {
-      line_.runs.push_back({face, "", {}, {}});
+    const MusicSign setting = settingOf(character);
+    const double size = size_ * setting.growth;
+    if (line_.runs.empty() || line_.runs.back().face != face || line_.runs.back().size != size) {
+      line_.runs.push_back({face, size, "", {}, {}});
     }
     GlyphRun& run = line_.runs.back();
     if (!run.glyphs.empty()) {
       const auto before = static_cast<unsigned>(run.glyphs.back().index);
-      line_.width += face->kerningBetween(before, glyph) * size_;
+      line_.width += face->kerningBetween(before, glyph) * size;
     }
-    const double rise = isMusicSign(character) ? musicSignRise * size_ : 0;
     run.text += character;
-    run.glyphs.push_back({glyph, line_.width, -rise});
+    run.glyphs.push_back({glyph, line_.width, -setting.rise * size_});
     run.clusters.push_back({static_cast<int>(character.size()), 1});
-    line_.width += face->advanceOf(glyph) * size_;
+    line_.width += face->advanceOf(glyph) * size;
   }
 
   GlyphLine finish() { return std::move(line_); }

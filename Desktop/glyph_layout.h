@@ -11,10 +11,11 @@
 
 namespace desktop {
 
-/// Neighbouring letters of one face, with the text that they stand for. A cluster says how many
-/// bytes of the text and how many glyphs belong together.
+/// Neighbouring letters of one face and size, with the text that they stand for. A cluster says how
+/// many bytes of the text and how many glyphs belong together.
 struct GlyphRun {
   const FontFace* face = nullptr;
+  double size = 0;
   std::string text;
   std::vector<cairo_glyph_t> glyphs;  ///< x and y from the start of the line on its baseline
   std::vector<cairo_text_cluster_t> clusters;

@@ -28,8 +28,9 @@ struct Setting {
 /// A settings store in an SQLite file, for several processes at once. What a write has stored
 /// survives the process and the machine's power.
 ///
-/// The file holds one table: settings(key, type, value), where `type` is 'text', 'bool' or 'data'
-/// and `value` a text, 0 or 1, or a blob. Do not change it without a new format number.
+/// Its table is settings(key, type, value), where `type` is 'text', 'bool' or 'data' and `value` a
+/// text, 0 or 1, or a blob. Do not change it without a new format number. Others may keep tables of
+/// their own beside it.
 class SqliteSettingsStore final : public tonelake::SettingsStore {
  public:
   struct Opening {

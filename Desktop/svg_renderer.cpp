@@ -1,11 +1,13 @@
 #include "Desktop/svg_renderer.h"
 
+#include <algorithm>
 #include <sstream>
 #include <utility>
 #include <variant>
 
 #include <pugixml.hpp>
 
+#include "Desktop/pluck_script.h"
 #include "Desktop/svg_gradients.h"
 #include "Desktop/svg_text.h"
 #include "Desktop/typefaces.h"
@@ -23,13 +25,22 @@ bool losesBlanks(const std::string& text) {
          (text.front() == ' ' || text.back() == ' ' || text.find("  ") != std::string::npos);
 }
 
-bool containsLink(const todaychord::SceneItems& items) {
-  for (const todaychord::SceneItem& item : items) {
-    if (std::holds_alternative<todaychord::LinkArea>(item.content)) return true;
+// Whether there is an item for which `isWanted` is true, inside groups too.
+template <typename Predicate>
+bool containsAny(const todaychord::SceneItems& items, Predicate isWanted) {
+  return std::any_of(items.begin(), items.end(), [&](const todaychord::SceneItem& item) {
     const auto* group = std::get_if<todaychord::SceneGroup>(&item.content);
-    if (group != nullptr && containsLink(group->items)) return true;
-  }
-  return false;
+    return isWanted(item) || (group != nullptr && containsAny(group->items, isWanted));
+  });
+}
+
+bool isLink(const todaychord::SceneItem& item) {
+  return std::holds_alternative<todaychord::LinkArea>(item.content);
+}
+
+bool isString(const todaychord::SceneItem& item) {
+  const auto* group = std::get_if<todaychord::SceneGroup>(&item.content);
+  return group != nullptr && group->name.starts_with("string-");
 }
 
 void setFrame(pugi::xml_node node, const todaychord::Rectangle& frame) {
@@ -87,17 +98,18 @@ class SvgWriter {
                    item.anchor == todaychord::TextAnchor::middle ? "middle" : "end");
     }
     setPaint(node, "fill", item.color);
-    writeSpans(raiseMusicSigns(text, item.font.size), node);
+    writeSpans(raiseMusicSigns(text, item.font.size), item.font.size, node);
   }
 
   // An empty text around each span keeps line ends out of the line.
-  static void writeSpans(const std::vector<TextSpan>& spans, pugi::xml_node text) {
+  static void writeSpans(const std::vector<TextSpan>& spans, double fontSize, pugi::xml_node text) {
     for (const TextSpan& span : spans) {
       pugi::xml_node parent = text;
       if (span.shift != 0) {
         text.append_child(pugi::node_pcdata);
         parent = text.append_child("tspan");
         setAttribute(parent, "dy", span.shift);
+        if (span.growth != 1) setAttribute(parent, "font-size", fontSize * span.growth);
       }
       parent.append_child(pugi::node_pcdata).set_value(span.text.c_str());
     }
@@ -140,7 +152,7 @@ class SvgWriter {
 
 // A picture with links is no single image to a screen reader: the links must stay reachable.
 void writeRole(pugi::xml_node svg, const todaychord::Scene& scene, const std::string& idPrefix) {
-  setAttribute(svg, "role", containsLink(scene.items) ? "group" : "img");
+  setAttribute(svg, "role", containsAny(scene.items, isLink) ? "group" : "img");
   const auto addText = [&](const char* element, const char* attribute, const std::string& text) {
     if (text.empty()) return;
     const std::string id = idPrefix + element;
@@ -155,7 +167,7 @@ void writeRole(pugi::xml_node svg, const todaychord::Scene& scene, const std::st
 
 }  // namespace
 
-std::string renderSvg(const todaychord::Scene& scene, const std::string& idPrefix) {
+std::string renderSvg(const todaychord::Scene& scene, const SvgOptions& options) {
   pugi::xml_document document;
   pugi::xml_node svg = document.append_child("svg");
   setAttribute(svg, "xmlns", "http://www.w3.org/2000/svg");
@@ -166,10 +178,13 @@ std::string renderSvg(const todaychord::Scene& scene, const std::string& idPrefi
   // Letters stand as they were measured, at every size: unhinted, and none joined to "fi".
   setAttribute(svg, "text-rendering", "geometricPrecision");
   setAttribute(svg, "style", "font-variant-ligatures:none");
-  writeRole(svg, scene, idPrefix);
+  writeRole(svg, scene, options.idPrefix);
   pugi::xml_node definitions = svg.append_child("defs");
-  SvgWriter(definitions, idPrefix).write(scene.items, svg);
+  SvgWriter(definitions, options.idPrefix).write(scene.items, svg);
   if (definitions.first_child().empty()) svg.remove_child(definitions);
+  if (options.isPluckable && containsAny(scene.items, isString)) {
+    svg.append_child("script").append_child(pugi::node_cdata).set_value(pluckScript().c_str());
+  }
   std::ostringstream text;
   document.save(text, "  ", pugi::format_default | pugi::format_no_declaration,
                 pugi::encoding_utf8);

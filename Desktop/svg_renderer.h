@@ -6,9 +6,14 @@
 
 namespace desktop {
 
+struct SvgOptions {
+  std::string idPrefix;      ///< keeps the ids of several pictures in one page apart
+  bool isPluckable = false;  ///< a browser lets the strings of diagrams be plucked
+};
+
 /// The scene as an SVG document: it scales, its texts are text, and its title and description are
 /// what screen readers say. Bytes that are no UTF-8 and characters that XML forbids become
-/// U+FFFD. `idPrefix` keeps the ids of several pictures in one page apart.
-std::string renderSvg(const todaychord::Scene& scene, const std::string& idPrefix = "");
+/// U+FFFD.
+std::string renderSvg(const todaychord::Scene& scene, const SvgOptions& options = {});
 
 }  // namespace desktop

@@ -56,15 +56,14 @@ std::string formatPath(const todaychord::Path& path) {
 
 std::vector<TextSpan> raiseMusicSigns(std::string_view text, double fontSize) {
   std::vector<TextSpan> spans;
-  bool isRaised = false;
+  double rise = 0;
   for (const std::string_view character : tonelake::splitCharacters(text)) {
-    const bool isSign = isMusicSign(character);
-    if (spans.empty() || isSign != isRaised) {
-      const double rise = musicSignRise * fontSize;
-      spans.push_back({"", isSign == isRaised ? 0 : isSign ? -rise : rise});
+    const MusicSign setting = settingOf(character);
+    if (spans.empty() || setting.rise != rise) {
+      spans.push_back({"", (rise - setting.rise) * fontSize, setting.growth});
     }
     spans.back().text += character;
-    isRaised = isSign;
+    rise = setting.rise;
   }
   return spans;
 }

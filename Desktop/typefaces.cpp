@@ -12,6 +12,15 @@ constexpr Typeface typefaces[] = {
     {"Space Grotesk Medium",  "SpaceGrotesk-Medium.ttf",   "'Space Grotesk', 'Noto Music', sans-serif", 500},
     {"SpaceGrotesk-SemiBold", "SpaceGrotesk-SemiBold.ttf", "'Space Grotesk', 'Noto Music', sans-serif", 600},
 };
+
+constexpr MusicSign musicSigns[] = {
+    // sign rise  growth
+    {"♭",   0.02, 1.35},
+    {"♮",   0.12, 1},
+    {"♯",   0.12, 1},
+    {"𝄪",   0.12, 1},
+    {"𝄫",   0.02, 1.35},
+};
 // clang-format on
 
 }  // namespace
@@ -22,9 +31,11 @@ const Typeface& typefaceCalled(std::string_view name) {
   return found == std::end(typefaces) ? typefaces[0] : *found;
 }
 
-bool isMusicSign(std::string_view character) {
-  constexpr std::string_view signs[] = {"♭", "♮", "♯", "𝄪", "𝄫"};
-  return std::find(std::begin(signs), std::end(signs), character) != std::end(signs);
+MusicSign settingOf(std::string_view character) {
+  const auto* found =
+      std::find_if(std::begin(musicSigns), std::end(musicSigns),
+                   [&](const MusicSign& sign) { return sign.character == character; });
+  return found == std::end(musicSigns) ? MusicSign{character} : *found;
 }
 
 }  // namespace desktop

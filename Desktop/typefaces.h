@@ -18,10 +18,15 @@ const Typeface& typefaceCalled(std::string_view name);
 /// The file that holds the music signs, which our typefaces lack.
 inline constexpr const char* musicSignsFile = "NotoMusic-Regular.ttf";
 
-/// How much those signs are raised, in font sizes: they hang low beside our letters.
-inline constexpr double musicSignRise = 0.12;
+/// How a music sign of that face is set among our letters, beside which sharps hang low and flats
+/// are small.
+struct MusicSign {
+  std::string_view character;
+  double rise = 0;    ///< of its baseline, in font sizes of the line
+  double growth = 1;  ///< of its own font size
+};
 
-/// Whether `character`, one of UTF-8, is ♭ ♮ ♯ 𝄪 or 𝄫.
-bool isMusicSign(std::string_view character);
+/// How ♭ ♮ ♯ 𝄪 and 𝄫 are set; every other character, one of UTF-8, stands as it is.
+MusicSign settingOf(std::string_view character);
 
 }  // namespace desktop

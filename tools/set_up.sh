@@ -15,8 +15,8 @@ root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
     libhowardhinnant-date-dev libical-dev libpugixml-dev libre2-dev libsdbus-c++-dev libsmf-dev
     libsqlite3-dev nlohmann-json3-dev pkg-config tzdata zlib1g-dev)
   test_packages=(
-    clang-format dbus libgmock-dev libgtest-dev poppler-utils python3-dbusmock
-    python3-icalendar python3-mido)
+    chromium clang-format dbus libgmock-dev libgtest-dev poppler-utils
+    python3 python3-dbusmock python3-icalendar python3-mido)
   check_packages=(clang-tidy shellcheck)
 }
 

@@ -15,6 +15,7 @@ namespace {
 
 std::optional<pid_t> start(const std::vector<std::string>& arguments) {
   std::vector<char*> list;
+  list.reserve(arguments.size() + 1);
   for (const std::string& argument : arguments) list.push_back(const_cast<char*>(argument.c_str()));
   list.push_back(nullptr);
   posix_spawn_file_actions_t files;

@@ -32,6 +32,7 @@ constexpr const char* examples = message(R"(Examples:
   zyndle progression I-V-vi-IV     chords that go well together
   zyndle pack jazzChords           the chords of a style
   zyndle widget chord > today.svg  a widget as a picture
+  zyndle gallery DIR               all widgets as a page
   zyndle settings list             what you have set
   zyndle COMMAND --help            more about a command)");
 

@@ -44,6 +44,10 @@ DrawingStyle drawingStyle(const OutputOptions& options) {
   return {mirrored, options.ascii, mayColour()};
 }
 
+DrawingStyle textStyle(const OutputOptions& options) {
+  return {false, options.ascii, mayColour()};
+}
+
 std::string emphasized(const std::string& text, const DrawingStyle& style) {
   return style.isColoured ? "\033[1m" + text + "\033[0m" : text;
 }

@@ -21,6 +21,9 @@ struct DrawingStyle {
 /// where the terminal shows it.
 DrawingStyle drawingStyle(const OutputOptions& options);
 
+/// The style of a text without diagrams, which the setting does not matter to.
+DrawingStyle textStyle(const OutputOptions& options);
+
 /// `text` in bold where there is colour.
 std::string emphasized(const std::string& text, const DrawingStyle& style);
 

@@ -166,7 +166,7 @@ std::string textOf(const Answer& answer) {
 
 std::string headingOf(const FindOptions& options, const Answer& answer,
                       const Instrument& instrument) {
-  const DrawingStyle style = drawingStyle(options.output);
+  const DrawingStyle style = textStyle(options.output);
   const std::string names = tonelake::join(answer.names, ", ");
   if (!options.frets) return emphasized(names, style) + "\n\n";
   return emphasized(*options.frets, style) + '\n' + labelledRow(translated("Notes"), answer.names) +

@@ -4,12 +4,15 @@
 #include "zyndle/command_line.h"
 #include "zyndle/connect_command.h"
 #include "zyndle/find_command.h"
+#include "zyndle/hosting/gallery_command.h"
+#include "zyndle/hosting/host_command.h"
 #include "zyndle/packs_command.h"
 #include "zyndle/progression_command.h"
 #include "zyndle/progressions_command.h"
 #include "zyndle/recent_command.h"
 #include "zyndle/rpc_command.h"
 #include "zyndle/settings_command.h"
+#include "zyndle/status_command.h"
 #include "zyndle/today_command.h"
 #include "zyndle/voicings_command.h"
 #include "zyndle/widget_command.h"
@@ -37,7 +40,10 @@ void addCommands(CLI::App& app, zyndle::Action& action, zyndle::Arguments argume
   zyndle::addPacksCommands(app, action);
   zyndle::addCompanionCommand(app, action, arguments, jam);
   zyndle::addCompanionCommand(app, action, arguments, patterns);
-  zyndle::addWidgetCommand(app, action);
+  zyndle::addWidgetCommand(app, action, arguments);
+  zyndle::addStatusCommand(app, action);
+  zyndle::addCompanionCommand(app, action, arguments, zyndle::galleryCompanion);
+  zyndle::addCompanionCommand(app, action, arguments, zyndle::hostCompanion);
   zyndle::addRecentCommand(app, action);
   zyndle::addCollectionsCommand(app, action);
   zyndle::addCompanionCommand(app, action, arguments, reminders);

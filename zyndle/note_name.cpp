@@ -4,6 +4,7 @@
 
 #include "Tonelake/foundation/text.h"
 #include "zyndle/command_error.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 

@@ -152,8 +152,8 @@ std::string textOf(const std::vector<Listing>& listings, const DrawingStyle& sty
 void showProgressions(const ProgressionsOptions& options) {
   installHost(options.output.isForPrograms());
   const std::vector<Listing> listings = listProgressions(options);
-  writeText(options.output, options.output.json ? jsonOf(listings)
-                                                : textOf(listings, drawingStyle(options.output)));
+  writeText(options.output,
+            options.output.json ? jsonOf(listings) : textOf(listings, textStyle(options.output)));
 }
 
 }  // namespace

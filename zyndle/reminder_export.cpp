@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "Desktop/reminder_calendar_file.h"
+#include "Tonelake/platform/notification_request_list.h"
 #include "Tonelake/platform/platform.h"
 #include "Tonelake/today/today_chord_library.h"
 #include "zyndle/command_error.h"
@@ -19,19 +20,9 @@ using desktop::CalendarReminder;
 using desktop::StoredNotification;
 using tonelake::NotificationRequest;
 
-class RequestList final : public tonelake::NotificationCenter {
- public:
-  void add(const NotificationRequest& request, Completion completion) override {
-    requests.push_back(request);
-    completion(std::nullopt);
-  }
-
-  std::vector<NotificationRequest> requests;
-};
-
 std::vector<CalendarReminder> remindersOfMonth(const MonthOptions& options,
                                                desktop::SqliteNotificationStore& store) {
-  const auto month = std::make_shared<RequestList>();
+  const auto month = std::make_shared<tonelake::NotificationRequestList>();
   scheduleMonth(options, month);
   std::map<std::string, StoredNotification> scheduled;
   for (StoredNotification& reminder : pendingReminders(store)) {
@@ -53,6 +44,7 @@ std::vector<CalendarReminder> remindersOfMonth(const MonthOptions& options,
 void numberReminders(std::vector<CalendarReminder>& reminders,
                      desktop::SqliteNotificationStore& store) {
   std::vector<std::string> identifiers;
+  identifiers.reserve(reminders.size());
   for (const CalendarReminder& reminder : reminders) {
     identifiers.push_back(reminder.notification.request.identifier);
   }

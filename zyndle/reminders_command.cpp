@@ -18,8 +18,8 @@ namespace {
 constexpr const char* description = message("Be reminded of the chord of the day every morning");
 
 constexpr const char* examples =
-    message(R"(Reminders come between 08:00 and 08:16, each day in a category at another moment.
-They are scheduled for what is left of a month; scheduling again replaces them.
+    message(R"(A reminder a day and category, at some moment between 08:00 and 08:16. They are
+scheduled a month at a time; scheduling a month again replaces its reminders.
 
 Examples:
   zyndle reminders schedule                  the rest of this month

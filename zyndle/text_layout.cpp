@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "Tonelake/foundation/text.h"
 #include "zyndle/text_columns.h"
 
 namespace zyndle {
@@ -30,11 +29,6 @@ std::string fill(std::string start, const std::vector<TextPiece>& pieces) {
     isAtStart = false;
   }
   return text + line + '\n';
-}
-
-std::vector<std::string> wordsOf(std::string_view sentences) {
-  const auto words = tonelake::split(sentences, ' ');
-  return {words.begin(), words.end()};
 }
 
 }  // namespace

@@ -19,7 +19,9 @@
 #include "zyndle/command_error.h"
 #include "zyndle/host.h"
 #include "zyndle/output.h"
+#include "zyndle/scale_option.h"
 #include "zyndle/translation.h"
+#include "zyndle/widget_names.h"
 
 namespace zyndle {
 namespace {
@@ -42,43 +44,32 @@ Examples:
   zyndle widget chord > today.svg       today's chord, small
   zyndle widget chord --family medium -o today.svg
   zyndle widget recent -o recent.svg    what you have looked at last
+  zyndle widget chord --format png --scale 3 -o today.png
   zyndle widget launcher --format json  the shapes, texts and links themselves)");
 
 struct WidgetOptions {
   std::string kind;
   std::optional<std::string> family;
   std::string format = "svg";
+  std::optional<std::string> scale;
   std::string file = "-";
 };
 
-struct ShortName {
-  const char* name;
-  std::string_view kind;
-};
+constexpr double standardScale = 2;  // as screens of today have it
 
-constexpr ShortName shortNames[] = {
-    {"chord", todaychord::chordWidgetKind},
-    {"launcher", todaychord::launcherWidgetKind},
-    {"recent", todaychord::recentChordsWidgetKind},
-    {"collections", todaychord::collectionsWidgetKind},
-};
-
-// A way to write a scene down.
-struct Format {
-  const char* name;
-  std::string (*write)(const Scene& scene);
-};
-
-std::string writeSvg(const Scene& scene) {
-  return desktop::renderSvg(scene);
+std::string writeSvg(const Scene& scene, double /*scale*/) {
+  return desktop::renderSvg(scene, {.idPrefix = "", .isPluckable = true});
 }
 
-std::string writeJson(const Scene& scene) {
+std::string writeJson(const Scene& scene, double /*scale*/) {
   return tonelake::json::write(todaychord::encodeScene(scene)) + '\n';
 }
 
-constexpr Format formats[] = {
+// Those without a function are zyndle-picture's.
+constexpr SceneFormat formats[] = {
     {"svg", writeSvg},
+    {"png", nullptr},
+    {"pdf", nullptr},
     {"json", writeJson},
 };
 
@@ -91,13 +82,13 @@ std::string listNames(const Named& all) {
 
 const WidgetDescription& readWidget(const std::string& name) {
   std::string_view kind = name;
-  for (const ShortName& known : shortNames) {
+  for (const WidgetName& known : widgetNames) {
     if (name == known.name) kind = known.kind;
   }
   const WidgetDescription* widget = todaychord::TodayChordBundle::findWidget(kind);
   if (widget == nullptr) {
     refuse(translated("there is no widget {0}; there are {1}", tonelake::quoted(name),
-                      listNames(shortNames)));
+                      listNames(widgetNames)));
   }
   return *widget;
 }
@@ -122,32 +113,49 @@ WidgetFamily readFamily(const WidgetOptions& options, const WidgetDescription& w
                     tonelake::join(names, ", ")));
 }
 
-const Format& readFormat(const std::string& name) {
-  for (const Format& format : formats) {
-    if (name == format.name) return format;
-  }
-  refuse(translated("{0} {1} is not one of {2}", "--format", tonelake::quoted(name),
-                    listNames(formats)));
+const SceneFormat* findFormat(std::string_view name, std::span<const SceneFormat> known) {
+  const auto found = std::find_if(known.begin(), known.end(),
+                                  [&](const SceneFormat& format) { return name == format.name; });
+  return found == known.end() ? nullptr : &*found;
 }
 
-void showWidget(const WidgetOptions& options) {
+// How the scene is written here; nullptr where another program has to do it.
+const SceneFormat* readFormat(const std::string& name, std::span<const SceneFormat> more) {
+  const SceneFormat* format = findFormat(name, formats);
+  if (format == nullptr) {
+    refuse(translated("{0} {1} is not one of {2}", "--format", tonelake::quoted(name),
+                      listNames(formats)));
+  }
+  return format->write != nullptr ? format : findFormat(name, more);
+}
+
+void showWidget(const WidgetOptions& options, Arguments arguments,
+                std::span<const SceneFormat> more) {
   const WidgetDescription& widget = readWidget(options.kind);
   const WidgetFamily family = readFamily(options, widget);
-  const Format& format = readFormat(options.format);
-  if (options.file.empty())
+  const SceneFormat* const format = readFormat(options.format, more);
+  if (options.scale && options.format != "png") {
+    refuse(translated("--scale is for --format png; other pictures have no pixels"));
+  }
+  const double scale = options.scale ? readScale(*options.scale) : standardScale;
+  if (options.file.empty()) {
     refuse(translated("{} needs the name of a file, or - for standard output", "-o"));
+  }
+  if (format == nullptr) becomeCompanion("zyndle-picture", arguments);
   installHost(true);
   const todaychord::ViewSettings settings{
       todaychord::SharedSettings(tonelake::processPlatform().sharedSettings).isLeftHanded()};
   todaychord::makeWidgetProvider(widget.kind)
       ->getSnapshot([&](const todaychord::WidgetEntry& entry) {
-        writeFile(options.file, format.write(todaychord::drawWidget(entry, family, settings)));
+        const Scene scene = todaychord::drawWidget(entry, family, settings);
+        writeFile(options.file, format->write(scene, scale));
       });
 }
 
 }  // namespace
 
-void addWidgetCommand(CLI::App& app, Action& action) {
+void addWidgetCommand(CLI::App& app, Action& action, Arguments arguments,
+                      std::span<const SceneFormat> more) {
   const auto options = std::make_shared<WidgetOptions>();
   CLI::App& command = *app.add_subcommand("widget", translated(description));
   command.footer(translated(examples));
@@ -156,11 +164,13 @@ void addWidgetCommand(CLI::App& app, Action& action) {
       .add_option("--family", options->family,
                   translated("Its size; else the first that it offers"))
       ->type_name("FAMILY");
-  command.add_option("--format", options->format, translated("svg or json; else svg"))
+  command.add_option("--format", options->format, translated("svg, png, pdf or json; else svg"))
       ->type_name("FORMAT");
+  command.add_option("--scale", options->scale, translated("Pixels a point, for png; else 2"))
+      ->type_name("NUMBER");
   command.add_option("-o", options->file, translated("Write to a file, not to standard output"))
       ->type_name("FILE");
-  command.callback([options, &action] { action = [options] { showWidget(*options); }; });
+  command.callback([=, &action] { action = [=] { showWidget(*options, arguments, more); }; });
 }
 
 }  // namespace zyndle

@@ -15,7 +15,6 @@ namespace {
 
 namespace layout = widgetMetrics::accessory;
 
-constexpr WholeNumber shortTitleLength = 2;  // almost every type by its short name: "Cmaj7"
 constexpr WholeNumber titleLength = 12;
 
 Point middleOf(const Rectangle& frame) {
@@ -23,15 +22,13 @@ Point middleOf(const Rectangle& frame) {
 }
 
 struct TitleShape {
-  WholeNumber maxChars;
   const char* font;
   double fontSize;
   double width;
   double icon;  // in place of a title
 };
 
-SceneItem drawTitle(const DayChord& chord, const Rectangle& frame, const TitleShape& shape) {
-  const std::string title = widgetTitle(chord.chord, shape.maxChars);
+SceneItem drawTitle(const std::string& title, const Rectangle& frame, const TitleShape& shape) {
   if (title.empty()) return {drawCentred(noChordIcon, frame, shape.icon, widgetPalette::title)};
   const TextStyle style{{shape.font, shape.fontSize}, widgetPalette::heading, TextAnchor::middle};
   TextItem line = fitLine(title, style, middleOf(frame), shape.width);
@@ -57,21 +54,20 @@ SceneItems drawCircularLayout(const DayChord& chord, const Rectangle& frame) {
   const PathItem ring{circle(middleOf(frame), radius), std::nullopt,
                       Stroke{widgetPalette::ring, layout::ringStroke}};
   return {{ring},
-          drawTitle(chord, frame,
-                    {shortTitleLength, boldFont, layout::circleFont, layout::circleTextWidth,
-                     layout::circleIcon})};
+          drawTitle(inlineTitle(chord.chord), frame,
+                    {boldFont, layout::circleFont, layout::circleTextWidth, layout::circleIcon})};
 }
 
 SceneItems drawRectangularLayout(const DayChord& chord, const Rectangle& frame) {
-  return {drawTitle(chord, frame,
-                    {titleLength, boldFont, widgetMetrics::footnote, layout::rectangleTextWidth,
-                     layout::rectangleIcon})};
+  return {drawTitle(
+      widgetTitle(chord.chord, titleLength), frame,
+      {boldFont, widgetMetrics::footnote, layout::rectangleTextWidth, layout::rectangleIcon})};
 }
 
 SceneItems drawInlineLayout(const DayChord& chord, const Rectangle& frame) {
-  return {drawTitle(chord, frame,
-                    {shortTitleLength, regularFont, layout::inlineFont, layout::inlineTextWidth,
-                     layout::inlineIcon})};
+  return {
+      drawTitle(inlineTitle(chord.chord), frame,
+                {regularFont, layout::inlineFont, layout::inlineTextWidth, layout::inlineIcon})};
 }
 
 }  // namespace todaychord

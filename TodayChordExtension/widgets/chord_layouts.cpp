@@ -60,7 +60,7 @@ std::string listStrings(const WholeNumbers& values, WholeNumber least, const cha
   return list;
 }
 
-// What is known of a chord, a line each: its tones, frets and fingers.
+// What is known of a chord, a line each: its tones, frets and fingers; then the button.
 SceneItems drawFacts(const DayChord& chord) {
   namespace layout = widgetMetrics::extraLargeChord;
   Column names(layout::columnX, layout::factX, TextAnchor::start);
@@ -72,12 +72,22 @@ SceneItems drawFacts(const DayChord& chord) {
     facts.addText(fact, {regularFont, layout::factFont}, widgetPalette::title, baseline);
     baseline += layout::factPitch;
   };
-  add(localized("Notes"), widgetTones(chord.chord));
+  if (const std::string tones = widgetTones(chord.chord); !tones.empty()) {
+    add(localized("Notes"), tones);
+  }
   if (chord.diagram) {
     add(localized("Frets"), listStrings(chord.diagram->position, 0, "x"));
     add(localized("Fingers"), listStrings(chord.diagram->fingering, 1, "–"));
   }
+  Column below(layout::columnX, layout::columnWidth, TextAnchor::start);
+  if (facts.items.empty()) {
+    below.addText(chordOfTheDayTones(chord.chord), {regularFont, layout::factFont},
+                  widgetPalette::subtitle, baseline);
+    baseline += layout::factPitch;
+  }
+  below.addButton(baseline + layout::buttonBelowFacts);
   append(names.items, facts.items);
+  append(names.items, below.items);
   return names.items;
 }
 
@@ -89,7 +99,13 @@ SceneItems drawSmallLayout(const DayChord& chord, const Rectangle& frame) {
   Column column(middle, layout::titleWidth, TextAnchor::middle);
   const std::string title = widgetTitle(chord.chord, smallTitleLength);
   if (title.empty()) {
-    return {{drawCentred(noChordIcon, frame, layout::icon, widgetPalette::quietIcon)}};
+    const Rectangle aboveText{0, 0, frame.width, layout::loneTextBaseline};
+    column.addText(chordOfTheDayTitle(chord.chord, smallTitleLength),
+                   {regularFont, widgetMetrics::footnote}, widgetPalette::subtitle,
+                   layout::loneTextBaseline);
+    column.items.push_back(
+        {drawCentred(noChordIcon, aboveText, layout::icon, widgetPalette::quietIcon)});
+    return column.items;
   }
   column.addText(title, {regularFont, layout::titleFont}, widgetPalette::title,
                  layout::titleBaseline);
@@ -102,9 +118,9 @@ SceneItems drawMediumLayout(const DayChord& chord, const Rectangle&) {
   namespace layout = widgetMetrics::mediumChord;
   Column column(layout::columnX, layout::columnWidth, TextAnchor::start);
   column.addLabel(layout::labelBaseline);
-  column.addText(widgetTitle(chord.chord, titleLength), {regularFont, layout::titleFont},
+  column.addText(chordOfTheDayTitle(chord.chord, titleLength), {regularFont, layout::titleFont},
                  widgetPalette::title, layout::titleBaseline);
-  column.addText(widgetTones(chord.chord), {regularFont, widgetMetrics::footnote},
+  column.addText(chordOfTheDayTones(chord.chord), {regularFont, widgetMetrics::footnote},
                  widgetPalette::subtitle, layout::tonesBaseline);
   column.addButton(layout::buttonY);
   column.items.push_back(drawPicture(chord, layout::diagramMiddleX, layout::diagramY,
@@ -117,9 +133,9 @@ SceneItems drawLargeLayout(const DayChord& chord, const Rectangle& frame) {
   const double middle = frame.width / 2;
   Column column(middle, layout::textWidth, TextAnchor::middle);
   column.addLabel(layout::labelBaseline);
-  column.addText(widgetTitle(chord.chord, titleLength), {regularFont, layout::titleFont},
+  column.addText(chordOfTheDayTitle(chord.chord, titleLength), {regularFont, layout::titleFont},
                  widgetPalette::title, layout::titleBaseline);
-  column.addText(widgetTones(chord.chord), {regularFont, layout::tonesFont},
+  column.addText(chordOfTheDayTones(chord.chord), {regularFont, layout::tonesFont},
                  widgetPalette::subtitle, layout::tonesBaseline);
   column.items.push_back(
       drawPicture(chord, middle, layout::diagramY, layout::diagramScale, layout::icon));
@@ -131,11 +147,9 @@ SceneItems drawExtraLargeLayout(const DayChord& chord, const Rectangle&) {
   namespace layout = widgetMetrics::extraLargeChord;
   Column column(layout::columnX, layout::columnWidth, TextAnchor::start);
   column.addLabel(layout::labelBaseline);
-  const std::string title = widgetTitle(chord.chord, titleLength);
-  column.addText(title, {regularFont, layout::titleFont}, widgetPalette::title,
-                 layout::titleBaseline);
-  if (!title.empty()) append(column.items, drawFacts(chord));
-  column.addButton(layout::buttonY);
+  column.addText(chordOfTheDayTitle(chord.chord, titleLength), {regularFont, layout::titleFont},
+                 widgetPalette::title, layout::titleBaseline);
+  append(column.items, drawFacts(chord));
   column.items.push_back(drawPicture(chord, layout::diagramMiddleX, layout::diagramY,
                                      layout::diagramScale, layout::icon));
   return column.items;

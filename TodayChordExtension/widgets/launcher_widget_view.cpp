@@ -31,16 +31,15 @@ ToolLauncherCard cardOf(const LauncherTool& tool, const Color& tint) {
 SceneItems drawTexts(const TodayChordLauncherCard& card, const Rectangle& frame) {
   SceneItems items;
   const auto add = [&](const std::string& text, const Font& font, const Color& color, double y) {
-    if (text.empty()) return;
     const Point baseline{frame.x + layout::columnX, frame.y + y};
     items.push_back({fitLine(text, {font, color}, baseline, layout::columnWidth)});
   };
   add(inCapitals(card.category.localizedTitle()), {boldFont, widgetMetrics::footnote},
       widgetPalette::subtitle, layout::categoryBaseline);
-  add(widgetTitle(card.chord, titleLength), {regularFont, layout::titleFont},
+  add(chordOfTheDayTitle(card.chord, titleLength), {regularFont, layout::titleFont},
       widgetPalette::heading, layout::titleBaseline);
-  add(widgetTones(card.chord), {regularFont, widgetMetrics::footnote}, widgetPalette::subtitle,
-      layout::tonesBaseline);
+  add(chordOfTheDayTones(card.chord), {regularFont, widgetMetrics::footnote},
+      widgetPalette::subtitle, layout::tonesBaseline);
   append(items, drawLearnMore({frame.x + layout::columnX, frame.y + layout::buttonY}));
   return items;
 }

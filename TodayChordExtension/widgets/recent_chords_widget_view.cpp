@@ -38,12 +38,12 @@ SceneItems draw(const WidgetSmallChordCell& cell, const Rectangle& frame,
   SceneItems items = drawCard(frame, widgetPalette::chordCell);
   const std::string title = widgetTitle(cell.chord, titleLength);
   const double middle = frame.x + frame.width / 2;
-  if (!title.empty()) {
-    const TextStyle style{
-        {regularFont, layout::cellTitleFont}, widgetPalette::title, TextAnchor::middle};
-    items.push_back({fitLine(title, style, {middle, frame.y + layout::cellTitleBaseline},
-                             frame.width - 2 * tall::cardPadding)});
-  }
+  const TextStyle style{{regularFont, layout::cellTitleFont},
+                        title.empty() ? widgetPalette::subtitle : widgetPalette::title,
+                        TextAnchor::middle};
+  items.push_back({fitLine(title.empty() ? "Unknown chord" : title, style,
+                           {middle, frame.y + layout::cellTitleBaseline},
+                           frame.width - 2 * tall::cardPadding)});
   if (const auto diagram = widgetDiagram(cell.chord, settings)) {
     items.push_back(
         drawDiagramAt(*diagram, middle, frame.y + layout::diagramY, layout::diagramScale));

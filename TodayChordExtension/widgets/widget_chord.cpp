@@ -22,9 +22,24 @@ std::string widgetTitle(const std::optional<Chord>& chord, WholeNumber maxChars)
   return isShown(chord) ? tonelake::Chords::getTitleForChord(*chord, maxChars) : "";
 }
 
+std::string inlineTitle(const std::optional<Chord>& chord) {
+  constexpr tonelake::WholeNumber maxChars = 2;  // almost every type by its short name
+  return widgetTitle(chord, maxChars);
+}
+
 std::string widgetTones(const std::optional<Chord>& chord) {
   if (!isShown(chord)) return "";
   return tonelake::join(tonelake::Chords::getNotesOfChord(*chord), " · ");
+}
+
+std::string chordOfTheDayTitle(const std::optional<Chord>& chord, tonelake::WholeNumber maxChars) {
+  const std::string title = widgetTitle(chord, maxChars);
+  return title.empty() ? "No chord" : title;
+}
+
+std::string chordOfTheDayTones(const std::optional<Chord>& chord) {
+  const std::string tones = widgetTones(chord);
+  return tones.empty() ? "Find one in Zyndle" : tones;
 }
 
 std::string chordOfTheDayLabel(const std::optional<Chord>& chord) {

@@ -17,8 +17,16 @@ inline constexpr tonelake::WholeNumber spokenTitleLength = 18;
 /// The chord's title; "" without a chord and for one that cannot be shown.
 std::string widgetTitle(const std::optional<Chord>& chord, tonelake::WholeNumber maxChars);
 
+/// The chord's title where there is hardly room for one: "Cmaj7".
+std::string inlineTitle(const std::optional<Chord>& chord);
+
 /// "C · E · G"; "" without a chord and for one that cannot be shown.
 std::string widgetTones(const std::optional<Chord>& chord);
+
+// The two lines that name the chord of the day: its title and tones, or what stands in for them, so
+// that a card without a chord does not look torn.
+std::string chordOfTheDayTitle(const std::optional<Chord>& chord, tonelake::WholeNumber maxChars);
+std::string chordOfTheDayTones(const std::optional<Chord>& chord);
 
 /// "Chord of the Day, C major. Learn More"; without a title "Chord of the Day. Learn More".
 std::string chordOfTheDayLabel(const std::optional<Chord>& chord);

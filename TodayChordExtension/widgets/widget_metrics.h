@@ -54,7 +54,8 @@ inline constexpr double titleFont = 17;
 inline constexpr double titleBaseline = 26;
 inline constexpr double titleWidth = 138;
 inline constexpr double diagramY = 35;
-inline constexpr double icon = 64;  // where there is no chord
+inline constexpr double icon = 64;  // where there is no chord, above a line of text
+inline constexpr double loneTextBaseline = 136;
 }  // namespace smallChord
 
 // Medium: the texts in a column on the left, the diagram on the right.
@@ -100,7 +101,7 @@ inline constexpr double factFont = 17;
 inline constexpr double firstFactBaseline = 174;
 inline constexpr double factPitch = 32;
 inline constexpr double factX = 84;  // from the name of a fact to the fact
-inline constexpr double buttonY = 280;
+inline constexpr double buttonBelowFacts = 10;
 inline constexpr double icon = 150;
 }  // namespace extraLargeChord
 

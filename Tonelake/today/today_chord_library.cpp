@@ -6,6 +6,7 @@
 #include "Tonelake/chords/chord_json.h"
 #include "Tonelake/foundation/fatal.h"
 #include "Tonelake/platform/platform.h"
+#include "Tonelake/today/plain_chord_list.h"
 
 namespace tonelake {
 namespace {
@@ -25,6 +26,7 @@ std::vector<Chord> loadChords(const ResourceBundle& resources, ChordCategory cat
   const auto text = resources.load(std::string(category.rawValue()) + "_chords", "json");
   // Nobody can act on a broken package: stop without a word.
   if (!text) stopWithProgrammingError("");
+  if (auto chords = readPlainChordList(*text)) return fillYear(std::move(*chords));
   try {
     const json::Value document = json::parse(*text);
     return fillYear(json::decodeList(json::Node(document), decodeChord));

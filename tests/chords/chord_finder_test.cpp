@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "Tonelake/chords/chord_data_manager.h"
-#include "Tonelake/chords/chord_naming.h"
 #include "Tonelake/theory/spelling_tables.h"
 #include "tests/support/plain_chord_finder.h"
 #include "tests/support/printing.h"
@@ -52,23 +51,6 @@ TEST(ChordFinder, ReadsNotesAsTheyAreTyped) {
     const auto matching = manager.findChordsMatching(row.notes);
     EXPECT_EQ(matching.empty() ? std::nullopt : std::optional(matching.front()), row.best);
   }
-}
-
-TEST(ChordFinder, RanksExtraTonesBeforeMissingOnes) {
-  std::vector<std::string> titles;
-  for (const Chord& chord : manager.findChordsMatching("C,E,G")) {
-    titles.push_back(Chords::getTitleForChord(chord, 99));
-  }
-  const auto place = [&](const char* title) {
-    return std::find(titles.begin(), titles.end(), title) - titles.begin();
-  };
-  const char* const order[] = {"C major", "C dominant 7th", "C major 7th", "A minor 7th",
-                               "C6",      "C major add 9",  "C9",          "C11",
-                               "C5"};
-  for (std::size_t i = 1; i < std::size(order); ++i) {
-    EXPECT_LT(place(order[i - 1]), place(order[i])) << order[i];
-  }
-  EXPECT_LT(place("C5"), std::ssize(titles));
 }
 
 // Every set of two to five pitches, each in some spelling and from some bass.

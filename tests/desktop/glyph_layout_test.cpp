@@ -78,7 +78,7 @@ TEST(GlyphLayout, TakesLettersThatAFaceLacksFromOthers) {
   for (const Case& each : std::vector<Case>{{"", {}},
                                             {"C major", {"C major"}},
                                             {"B♭m", {"B", "♭", "m"}},
-                                            {"♯♭𝄪", {"♯♭𝄪"}},
+                                            {"♯♭𝄪", {"♯", "♭", "𝄪"}},
                                             {"a\tb\n", {"a b "}},
                                             {"a\u200D\uFE0Fb\uFEFF", {"ab"}},
                                             {"a\xFF", {"a", unknown}},
@@ -94,11 +94,12 @@ TEST(GlyphLayout, TakesLettersThatAFaceLacksFromOthers) {
 }
 
 TEST(GlyphLayout, RaisesMusicSigns) {
-  const GlyphLine line = layOutGlyphs("B♭m", medium);
+  const GlyphLine line = layOutGlyphs("B♭♯", medium);
   ASSERT_EQ(line.runs.size(), 3U);
   EXPECT_EQ(line.runs[0].glyphs[0].y, 0);
-  EXPECT_EQ(line.runs[1].glyphs[0].y, -12);
-  EXPECT_EQ(line.runs[2].glyphs[0].y, 0);
+  EXPECT_EQ(line.runs[1].glyphs[0].y, -2);
+  EXPECT_EQ(line.runs[1].size, 135);
+  EXPECT_EQ(line.runs[2].glyphs[0].y, -12);
   EXPECT_NEAR(line.runs[2].glyphs[0].x, widthOf("B") + widthOf("♭"), 1e-9);
 }
 

@@ -58,7 +58,7 @@ TEST(SvgRenderer, WritesTheWholeScene) {
 }
 
 TEST(SvgRenderer, DefinesEachGradientOnce) {
-  const ParsedSvg parsed(renderSvg(drawDiagram(todaychord::testing::barreF(), 135), "f-"));
+  const ParsedSvg parsed(renderSvg(drawDiagram(todaychord::testing::barreF(), 135), {"f-"}));
   std::set<std::string> ids;
   std::set<std::string> contents;
   for (const auto& found : parsed.svg.select_nodes("/svg/defs/*")) {
@@ -169,8 +169,8 @@ TEST(SvgText, RaisesMusicSigns) {
   for (const Case& each : std::vector<Case>{{"C major", {{"C major", 0}}},
                                             {"", {}},
                                             {"F♯m", {{"F", 0}, {"♯", -1.2}, {"m", 1.2}}},
-                                            {"B♭♭/D", {{"B", 0}, {"♭♭", -1.2}, {"/D", 1.2}}},
-                                            {"♭5", {{"♭", -1.2}, {"5", 1.2}}},
+                                            {"B♭♭/D", {{"B", 0}, {"♭♭", -0.2, 1.35}, {"/D", 0.2}}},
+                                            {"♭5", {{"♭", -0.2, 1.35}, {"5", 0.2}}},
                                             {"F𝄪", {{"F", 0}, {"𝄪", -1.2}}}}) {
     EXPECT_EQ(raiseMusicSigns(each.text, 10), each.spans) << each.text;
   }

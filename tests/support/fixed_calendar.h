@@ -10,7 +10,7 @@ namespace tonelake::testing {
 
 /// A calendar whose clock stands still, ahead of UTC by a whole number of hours, which knows no
 /// month's end and can be made to know neither days nor midnights.
-class FixedCalendar final : public Calendar {
+class FixedCalendar : public Calendar {
  public:
   explicit FixedCalendar(Instant time, int hoursAhead = 0) : time_(time), ahead_(hoursAhead) {}
 

@@ -27,9 +27,11 @@ std::vector<int> pitchesOf(const std::string& notes) {
     std::string piece = notes.substr(begin, end - begin);
     begin = end + 1;
     if (piece.empty()) continue;
-    while (!piece.empty() && std::isspace(piece.front()) != 0) piece.erase(0, 1);
-    while (!piece.empty() && std::isspace(piece.back()) != 0) piece.pop_back();
-    for (char& letter : piece) letter = static_cast<char>(std::toupper(letter));
+    piece.erase(0, piece.find_first_not_of(" \t\n"));
+    piece.erase(piece.find_last_not_of(" \t\n") + 1);
+    for (char& letter : piece) {
+      if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
+    }
     if (piece.size() == 2 && piece[0] >= 'A' && piece[0] <= 'G' && piece[1] == 'B') {
       piece = piece.substr(0, 1) + "♭";
     }

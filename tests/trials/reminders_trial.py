@@ -55,8 +55,10 @@ class Trial(dbusmock.DBusTestCase):
 
     def schedule(self, *hours_ago):
         """Next month's reminders, the first few of them due some hours ago instead."""
-        self.run_to_end(0, "schedule", "--month-offset", "1", "--category", "jazz")
-        rows = self.database("SELECT identifier FROM notifications ORDER BY month, day")
+        for category in ["jazz", "beginner", "jazz"]:
+            self.run_to_end(0, "schedule", "--month-offset", "1", "--category", category)
+        rows = self.database("SELECT identifier FROM notifications "
+                             "WHERE identifier LIKE '%_jazz_%' ORDER BY month, day")
         for (name,), hours in zip(rows, hours_ago):
             due = datetime.datetime.utcnow() - datetime.timedelta(hours=hours)
             self.database(
@@ -87,18 +89,19 @@ class Trial(dbusmock.DBusTestCase):
 
 class Delivery(Trial):
     def test_first_without_and_then_with_a_service(self):
-        names = self.schedule(0, 25, 23)
+        names = self.schedule(0, 25, *range(1, 10))
+        self.database("UPDATE notifications SET month = 13 WHERE identifier = ?", names[11])
         errors = self.run_to_end(1, "deliver")
         self.assertIn("no notification service", errors)
-        self.assertIn("2 reminders kept", errors)
-        self.assertIn("Reminder %s dropped" % names[1], errors)
+        self.assertIn("10 reminders kept", errors)
+        self.assertIn("Reminder %s dropped: it was missed" % names[1], errors)
+        self.assertIn("Reminder %s dropped: its day does not exist" % names[11], errors)
         server = self.serve()
         # All of them at the same moment.
         for process in [self.start("deliver") for _ in range(5)]:
             self.assertEqual((process.communicate()[1], process.returncode), ("", 0))
         calls = [arguments for _, arguments in server.GetMethodCalls("Notify")]
-        self.assertEqual(len(calls), 2)
-        self.assertEqual(self.delivered(), 2)
+        self.assertEqual((len(calls), self.delivered()), (10, 10))
         for call in calls:
             self.assertRegex(call[4], r"^&lt;b&gt;&amp;\nzyndle://widget/chord\?root=.*&amp;type=")
             self.assertEqual(list(call[5]), [], "nobody would be there to hear the click")
@@ -114,12 +117,24 @@ class Delivery(Trial):
             self.assertIn("does not answer", self.run_to_end(1, "deliver"))
         self.assertEqual(self.delivered(), 0)
 
-    def test_killed_between_posting_and_marking(self):
+    def start_posting_slowly(self):
+        """The delivery of one reminder, at the moment when the service has it and thinks."""
         self.schedule(0)
         seen = self.folder / "seen"
         server = self.serve("import time; open(%r, 'w').close(); time.sleep(1); ret = 1" % str(seen))
         process = self.start("deliver")
         self.wait_for(seen.exists)
+        return process, server
+
+    def test_replaced_while_it_is_posted(self):
+        process, _ = self.start_posting_slowly()
+        names = self.schedule()
+        self.assertEqual((process.communicate()[0], process.returncode), ("1 reminder delivered\n", 0))
+        self.assertEqual(self.delivered(), 0, "the new one is still to come")
+        self.assertEqual(len(self.run_to_end(0, "list").splitlines()), 2 * len(names))
+
+    def test_killed_between_posting_and_marking(self):
+        process, server = self.start_posting_slowly()
         process.kill()
         process.wait()
         self.assertEqual(self.delivered(), 0)
@@ -167,7 +182,8 @@ class Export(Trial):
                 self.assertRegex(event["URL"], "^zyndle://widget/chord\\?root=.*&type=.*&variant=0$")
                 [alarm] = event.walk("VALARM")
                 self.assertEqual(alarm["TRIGGER"].dt, datetime.timedelta())
-        kept = self.database("SELECT body, minute FROM notifications ORDER BY month, day")
+        kept = self.database("SELECT body, minute FROM notifications "
+                             "WHERE identifier LIKE '%_jazz_%' ORDER BY month, day")
         self.assertEqual([(e["DESCRIPTION"], e["DTSTART"].dt.minute) for e in events], kept)
 
 

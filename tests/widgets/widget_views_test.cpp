@@ -222,6 +222,11 @@ TEST(WidgetViews, ShowAnIconForAChordThatCannotBeShown) {
       const auto images = collect<ImageItem>(scene.items);
       ASSERT_EQ(images.size(), 1U) << family.rawValue();
       EXPECT_EQ(images[0].name, "music.note.square.stack.fill");
+      // On a home screen a text says why.
+      const auto texts = collect<TextItem>(scene.items);
+      const bool isSaid = std::any_of(texts.begin(), texts.end(),
+                                      [](const TextItem& text) { return text.text == "No chord"; });
+      EXPECT_EQ(isSaid, !family.rawValue().starts_with("accessory")) << family.rawValue();
     }
   }
 }

@@ -163,7 +163,14 @@ TEST_F(Command, RefusesBadArgumentsInOneLine) {
       {{"widget", "Chord"}, "no widget \"Chord\"; there are chord, launcher"},
       {{"widget", "chord", "--family", "tiny"}, "--family \"tiny\" is not one of small, medium"},
       {{"widget", "recent", "--family", "small"}, "is not one of extraLargePortrait"},
-      {{"widget", "recent", "--format", "gif"}, "--format \"gif\" is not one of svg, json"},
+      {{"widget", "recent", "--format", "gif"},
+       "--format \"gif\" is not one of svg, png, pdf, json"},
+      {{"widget", "recent", "--scale", "2"}, "--scale is for --format png"},
+      {{"widget", "recent", "--format", "png", "--scale", "0"}, "--scale \"0\" is not a number"},
+      {{"widget", "recent", "--format", "png", "--scale", "nan"}, "above 0, up to 100"},
+      {{"gallery"}, "DIR is missing"},
+      {{"gallery", ""}, "DIR is empty"},
+      {{"host", "d", "--scale", "3x"}, "--scale \"3x\""},
       {{"widget", "recent", "-o", ""}, "-o needs the name of a file"},
       {{"settings"}, "a command is missing"},
       {{"settings", "forget"}, "no command \"forget\""},
@@ -319,6 +326,9 @@ TEST_F(Command, TellsWhatItCannotDo) {
       {{"today"}, "standard output: No space left", "/dev/full"},
       {{"chord", "C", "--json"}, "standard output: No space left", "/dev/full"},
       {{"chord", "C", "--svg", "/dev/full"}, "/dev/full", ""},
+      {{"widget", "chord", "--format", "pdf"}, "standard output: No space left", "/dev/full"},
+      {{"gallery", "/dev/null"}, "/dev/null", ""},
+      {{"host", "/dev/null"}, "/dev/null", ""},
       {{"--help"}, "standard output: No space left", "/dev/full"},
       {{"settings", "get", "left_handed"}, "left_handed is not set", ""},
   };
@@ -370,12 +380,43 @@ TEST_F(Command, DrawsEveryWidget) {
     EXPECT_EQ(svg.status, 0) << svg.errors;
     EXPECT_THAT(svg.output, AllOf(StartsWith("<svg "), HasSubstr(link))) << kind;
     EXPECT_THAT(json({"widget", kind, "--format", "json"}).dump(), HasSubstr(link)) << kind;
+    EXPECT_THAT(run({"widget", kind, "--format", "pdf"}).output, StartsWith("%PDF-")) << kind;
   }
+  // The width stands 16 bytes behind the start of a PNG, two of its bytes being enough here.
+  const ProgramResult png = run({"widget", "chord", "--format", "png", "--scale", "3"});
+  EXPECT_THAT(png.output, StartsWith("\x89PNG"));
+  EXPECT_EQ(png.output.substr(18, 2), "\x01\xFE") << png.errors;  // 3 * 170
   const Value right = json({"widget", "recent", "--format", "json"});
   EXPECT_EQ(right["height"], 715);
   run({"settings", "set", "left_handed", "true"});
   EXPECT_NE(json({"widget", "recent", "--format", "json"}), right);
   EXPECT_EQ(json({"widget", "chord", "--family", "medium", "--format", "json"})["width"], 364);
+}
+
+// Another process changes a setting under a running host, which is then told to stop.
+TEST_F(Command, HostsWidgetsUntilItIsStopped) {
+  constexpr const char* script = R"(
+    cd "$1" || exit
+    "$0" host out --scale 1 & host=$!
+    until [[ -e out/index.html ]]; do sleep 0.05; done
+    cp out/chord-small.svg before
+    "$0" settings set left_handed true && "$0" settings set todayChordCategory jazz
+    while cmp --quiet before out/chord-small.svg; do sleep 0.05; done
+    kill $host; wait $host; echo "status $?"; ls -A out out/fonts)";
+  const ProgramResult result = tonelake::testing::runProgram(
+      {{"/bin/bash", "-c", script, ZYNDLE_PROGRAM, folder_.path()},
+       {"TZ=UTC", "PATH=/usr/bin:/bin", "XDG_DATA_HOME=" + folder_.path()},
+       "",
+       ""});
+  EXPECT_EQ(result.errors, "");
+  EXPECT_THAT(result.output, StartsWith("status 0\nout:\nchord-accessoryCircular.png\n"));
+  EXPECT_THAT(result.output, EndsWith("SpaceGrotesk-OFL.txt\nSpaceGrotesk-SemiBold.ttf\n"));
+  EXPECT_EQ(countLines(result.output), 1U + 1 + 10 * 2 + 2 + 2 + 5) << result.output;
+}
+
+TEST_F(Command, SaysTheStatusInOneShortLine) {
+  const Value scene = json({"widget", "chord", "--family", "accessoryInline", "--format", "json"});
+  EXPECT_EQ(run({"status"}).output, std::string(scene["items"][0]["text"]) + "\n");
 }
 
 TEST_F(Command, WritesTheDrawingBesideTheText) {

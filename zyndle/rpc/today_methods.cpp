@@ -1,7 +1,7 @@
 #include <memory>
-#include <vector>
 
 #include "Tonelake/chords/chord_json.h"
+#include "Tonelake/platform/notification_request_list.h"
 #include "Tonelake/platform/platform.h"
 #include "Tonelake/today/chord_category.h"
 #include "zyndle/rpc/calendar_at.h"
@@ -32,17 +32,6 @@ json::Value getAllChords(const json::Node&, MethodContext& context) {
   return encodeList(context.todayChordLibrary()->getAllChords(), tonelake::encodeChord);
 }
 
-// Keeps what it is handed and delivers none of it.
-class RequestList final : public tonelake::NotificationCenter {
- public:
-  void add(const tonelake::NotificationRequest& request, Completion completion) override {
-    requests.push_back(request);
-    completion(std::nullopt);
-  }
-
-  std::vector<tonelake::NotificationRequest> requests;
-};
-
 json::Value encodeRequest(const tonelake::NotificationRequest& request) {
   const tonelake::LocalTime& time = request.time;
   return {{"identifier", request.identifier},
@@ -64,7 +53,7 @@ json::Value scheduleChordNotificationsForMonth(const json::Node& parameters,
                                                MethodContext& context) {
   const auto category = decodeCategory(parameters.member("selectedCategory"));
   const auto monthOffset = parameters.member("monthOffset").wholeNumber();
-  const auto requests = std::make_shared<RequestList>();
+  const auto requests = std::make_shared<tonelake::NotificationRequestList>();
   tonelake::Platform platform = tonelake::processPlatform();
   platform.notifications = requests;
   platform.calendar = context.calendar(parameters);

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <vector>
+
+#include "Tonelake/platform/notification_center.h"
+
+namespace tonelake {
+
+/// A center that keeps what it is handed for its owner to look at, and delivers none of it.
+class NotificationRequestList final : public NotificationCenter {
+ public:
+  void add(const NotificationRequest& request, Completion completion) override {
+    requests.push_back(request);
+    completion(std::nullopt);
+  }
+
+  std::vector<NotificationRequest> requests;
+};
+
+}  // namespace tonelake

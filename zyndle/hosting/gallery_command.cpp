@@ -1,0 +1,64 @@
+#include "zyndle/hosting/gallery_command.h"
+
+#include <memory>
+
+#include <CLI/CLI.hpp>
+
+#include "TodayChordExtension/widgets/shared_settings.h"
+#include "Tonelake/platform/platform.h"
+#include "zyndle/command_error.h"
+#include "zyndle/host.h"
+#include "zyndle/hosting/gallery_files.h"
+#include "zyndle/output.h"
+#include "zyndle/scale_option.h"
+#include "zyndle/translation.h"
+
+namespace zyndle {
+namespace {
+
+constexpr const char* examples =
+    message(R"(DIR gets each widget in each family as a picture and index.html, which shows
+them as a home screen does. There a pointer plucks strings, and a tap follows the
+link of a card.
+
+Examples:
+  zyndle gallery widgets && xdg-open widgets/index.html
+  zyndle gallery widgets --scale 3       as PNG too, three pixels a point)");
+
+struct Options {
+  std::string folder;
+  std::optional<std::string> scale;
+};
+
+void showGallery(const Options& options) {
+  if (options.folder.empty()) refuse(translated("{} is empty", "DIR"));
+  const std::optional<double> scale =
+      options.scale ? std::optional(readScale(*options.scale)) : std::nullopt;
+  const GalleryOptions gallery{options.folder, scale, std::nullopt};
+  installHost(true);
+  const auto sources = todaychord::WidgetSources::ofProcess();
+  WidgetTimelines timelines(sources);
+  timelines.refresh(WakeUp::start, sources.calendar->now());
+  prepareGallery(gallery);
+  writeGallery(gallery, drawGallery(timelines.shown(),
+                                    {todaychord::SharedSettings(sources.settings).isLeftHanded()}));
+}
+
+}  // namespace
+
+void addGalleryCommand(CLI::App& app, Action& action) {
+  const auto options = std::make_shared<Options>();
+  CLI::App& command =
+      *app.add_subcommand(galleryCompanion.name, translated(galleryCompanion.description));
+  command.footer(translated(examples));
+  command.add_option("DIR", options->folder, translated("The folder, made where it is missing"))
+      ->required()
+      ->type_name("");
+  command
+      .add_option("--scale", options->scale,
+                  translated("Write PNG too, with so many pixels a point"))
+      ->type_name("NUMBER");
+  command.callback([options, &action] { action = [options] { showGallery(*options); }; });
+}
+
+}  // namespace zyndle

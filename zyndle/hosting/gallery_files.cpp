@@ -1,0 +1,49 @@
+#include "zyndle/hosting/gallery_files.h"
+
+#include "Desktop/cairo_renderer.h"
+#include "Desktop/embedded_fonts.h"
+#include "Desktop/file_replacement.h"
+#include "Desktop/svg_renderer.h"
+#include "zyndle/command_error.h"
+#include "zyndle/hosting/embedded_web.h"
+
+namespace zyndle {
+namespace {
+
+void failIf(const std::optional<std::string>& problem) {
+  if (problem) fail(*problem);
+}
+
+std::string drawPng(const todaychord::Scene& scene, double scale) {
+  desktop::RenderedPicture png = desktop::renderPng(scene, scale);
+  if (!png.problem.empty()) fail(png.problem);
+  return std::move(png.bytes);
+}
+
+}  // namespace
+
+void prepareGallery(const GalleryOptions& options) {
+  const std::string fonts = options.folder + "/fonts/";
+  failIf(desktop::makeFolder(fonts));
+  for (const auto& files : {desktop::embeddedFonts(), embeddedWeb()}) {
+    for (const tonelake::EmbeddedResource& file : files) {
+      const bool isForFonts = file.fileName.ends_with(".ttf") || file.fileName.ends_with(".txt");
+      if (isForFonts)
+        failIf(desktop::replaceFile(fonts + std::string(file.fileName), file.contents));
+    }
+  }
+}
+
+void writeGallery(const GalleryOptions& options, const std::vector<GalleryPicture>& pictures) {
+  const auto write = [&](const std::string& name, const std::string& contents) {
+    failIf(desktop::replaceFile(options.folder + '/' + name, contents));
+  };
+  for (const GalleryPicture& picture : pictures) {
+    write(picture.fileName("svg"),
+          desktop::renderSvg(picture.scene, {.idPrefix = "", .isPluckable = true}));
+    if (options.scale) write(picture.fileName("png"), drawPng(picture.scene, *options.scale));
+  }
+  write("index.html", writeGalleryPage(pictures, options.secondsToReload));
+}
+
+}  // namespace zyndle
