@@ -1,6 +1,6 @@
 # The target "catalogues" checks every translation and compiles it to where the programs look for
 # it: share/locale beside the folders they are built in. A language is added here.
-set(ZYNDLE_LANGUAGES de es)
+set(ZYNDLE_LANGUAGES de es fr ja)
 
 find_program(MSGFMT msgfmt REQUIRED)
 set(compiled_catalogues "")

@@ -23,6 +23,7 @@
 #include "zyndle/number_option.h"
 #include "zyndle/output_options.h"
 #include "zyndle/text_layout.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -30,24 +31,24 @@ namespace {
 using tonelake::Note;
 using tonelake::WholeNumber;
 
-constexpr const char* description = "Name the chord that some notes or a shape are";
+constexpr const char* description = message("Name the chord that some notes or a shape are");
 
 constexpr const char* introduction =
-    R"(The first note is the bass. Where no chord has exactly these notes, the nearest
+    message(R"(The first note is the bass. Where no chord has exactly these notes, the nearest
 are told, with what they lack or have besides: people often leave out a note.
 
 A shape is a fret for each string, lowest string first, x for a muted one.
 
-)";
+)");
 
-constexpr const char* examples = R"(
+constexpr const char* examples = message(R"(
 Examples:
   zyndle find "E, G, C"
   zyndle find C Eb Gb A
   zyndle find "C E Bb" --limit 20
   zyndle find --frets x32010
   zyndle find --frets "8 10 10 9 8 8"
-  zyndle find --frets 000232 --tuning DADGAD)";
+  zyndle find --frets 000232 --tuning DADGAD)");
 
 constexpr WholeNumber defaultLimit = 8;
 
@@ -89,8 +90,8 @@ std::string spelledBy(const FoundChord& found, Note note) {
 Answer findAnswer(const std::vector<Note>& sounding, bool areSpelled) {
   const SoughtNotes sought{eachPitchOnce(sounding), areSpelled};
   if (sought.notes.size() < 2) {
-    refuse(std::string(areSpelled ? "NOTES has" : "--frets sounds") +
-           " fewer than two different notes");
+    refuse(areSpelled ? translated("{} has fewer than two different notes", "NOTES")
+                      : translated("{} sounds fewer than two different notes", "--frets"));
   }
   Answer answer;
   answer.exact = findExactly(sought);
@@ -129,21 +130,27 @@ std::string enumerate(std::vector<std::string> names) {
   if (names.size() < 2) return tonelake::join(names, "");
   const std::string last = names.back();
   names.pop_back();
-  return tonelake::join(names, ", ") + " and " + last;
+  // TRANSLATORS: notes, {1} the last of them: "G, B♭ and D".
+  return translated("{0} and {1}", tonelake::join(names, ", "), last);
 }
 
 std::string sentenceOf(const FoundChord& found) {
-  std::string sentence = tonelake::Chords::getTitleForChord(found.chord);
-  if (!found.missing.empty()) sentence += " without " + enumerate(found.missing);
-  if (!found.extra.empty()) sentence += " plus " + enumerate(found.extra);
-  return sentence;
+  const std::string title = tonelake::Chords::getTitleForChord(found.chord);
+  const std::string missing = enumerate(found.missing);
+  const std::string extra = enumerate(found.extra);
+  // TRANSLATORS: a chord and notes that it has but that are not played: "C6 without E and G".
+  if (extra.empty()) return translated("{0} without {1}", title, missing);
+  // TRANSLATORS: a chord and notes that are played besides its own: "C6 plus B♭".
+  if (missing.empty()) return translated("{0} plus {1}", title, extra);
+  return translated("{0} without {1} plus {2}", title, missing, extra);
 }
 
 std::string textOf(const Answer& answer) {
   if (answer.exact.empty()) {
-    std::string text = "No chord has exactly these notes";
-    if (answer.near.empty()) return text + ", and none comes near.\n";
-    text += "; the nearest:\n";
+    if (answer.near.empty()) {
+      return translated("No chord has exactly these notes, and none comes near.") + '\n';
+    }
+    std::string text = translated("No chord has exactly these notes; the nearest:") + '\n';
     for (const FoundChord& found : answer.near) text += bulletedSentence(sentenceOf(found));
     return text;
   }
@@ -162,18 +169,21 @@ std::string headingOf(const FindOptions& options, const Answer& answer,
   const DrawingStyle style = textStyle(options.output);
   const std::string names = tonelake::join(answer.names, ", ");
   if (!options.frets) return emphasized(names, style) + "\n\n";
-  return emphasized(*options.frets, style) + '\n' + labelledRow("Notes", answer.names) +
+  return emphasized(*options.frets, style) + '\n' + labelledRow(translated("Notes"), answer.names) +
          instrumentRows(instrument) + '\n';
 }
 
 void showFound(const FindOptions& options) {
   const WholeNumber limit = readNumber("--limit", options.limit, defaultLimit, 1);
   if (options.frets.has_value() != options.notes.empty()) {
-    refuse(options.frets ? "NOTES and --frets cannot both be given"
-                         : "NOTES or --frets is missing");
+    refuse(translated(options.frets ? message("{0} and {1} cannot both be given")
+                                    : message("{0} or {1} is missing"),
+                      "NOTES", "--frets"));
   }
   const bool hasInstrument = options.instrument.tuning || options.instrument.capo;
-  if (hasInstrument && !options.frets) refuse("--tuning and --capo are for shapes, with --frets");
+  if (hasInstrument && !options.frets) {
+    refuse(translated("{0} and {1} are for shapes, with {2}", "--tuning", "--capo", "--frets"));
+  }
   const Instrument instrument = readInstrument(options.instrument);
   installHost(options.output.isForPrograms());
   Answer answer = options.frets
@@ -189,13 +199,14 @@ void showFound(const FindOptions& options) {
 
 void addFindCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<FindOptions>();
-  CLI::App& command = *app.add_subcommand("find", description);
-  command.footer(std::string(introduction) + instrumentHelp + examples);
-  command.add_option("NOTES", options->notes, "The names of the notes, the bass first")
+  CLI::App& command = *app.add_subcommand("find", translated(description));
+  command.footer(translated(introduction) + translated(instrumentHelp) + translated(examples));
+  command.add_option("NOTES", options->notes, translated("The names of the notes, the bass first"))
       ->type_name("");
-  command.add_option("--frets", options->frets, "A shape in place of notes")->type_name("FRETS");
+  command.add_option("--frets", options->frets, translated("A shape in place of notes"))
+      ->type_name("FRETS");
   addInstrumentOptions(command, options->instrument);
-  command.add_option("--limit", options->limit, "Nearest chords to show, at most (8)")
+  command.add_option("--limit", options->limit, translated("Nearest chords to show, at most (8)"))
       ->type_name("N");
   addFormatOptions(command, options->output);
   command.callback([options, &action] { action = [options] { showFound(*options); }; });

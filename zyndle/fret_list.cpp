@@ -8,6 +8,7 @@
 
 #include "Tonelake/foundation/text.h"
 #include "zyndle/command_error.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -45,12 +46,15 @@ Frets readFrets(const std::string& text) {
   const std::vector<std::string_view> words = wordsOf(text);
   for (const std::string_view word : words) {
     if (parseFret(word)) continue;
-    refuse(typed + ": " + quoted(word) + " is neither a fret from 0 to 24 nor x, a muted string");
+    refuse(translated("{0}: {1} is neither a fret from 0 to 24 nor x, a muted string", typed,
+                      quoted(word)));
   }
   Frets frets{};
   if (words.size() != frets.size()) {
-    refuse(typed + " has " + std::to_string(words.size()) +
-           " frets; a shape has six, lowest string first, like x32010 or \"8 10 10 9 8 8\"");
+    refuse(
+        translated("{0} has {1} frets; a shape has six, lowest string first, like "
+                   "x32010 or \"8 10 10 9 8 8\"",
+                   typed, words.size()));
   }
   std::transform(words.begin(), words.end(), frets.begin(),
                  [](std::string_view word) { return *parseFret(word); });

@@ -22,6 +22,7 @@
 #include "zyndle/output.h"
 #include "zyndle/pattern_names.h"
 #include "zyndle/text_layout.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -31,10 +32,10 @@ using tonelake::Chord;
 using tonelake::PatternLibrary;
 using tonelake::WholeNumber;
 
-constexpr const char* description = "Play a row of chords as music";
+constexpr const char* description = message("Play a row of chords as music");
 
 constexpr const char* introduction =
-    R"(A guitar plays the chords, a bar each, in one of the ways that zyndle patterns
+    message(R"(A guitar plays the chords, a bar each, in one of the ways that zyndle patterns
 lists, and bass and drums play what goes with it. The shapes are those of zyndle
 connect.
 
@@ -42,14 +43,14 @@ The name of the FILE tells its kind: .mid for notes, .wav for sound; - writes
 the notes to standard output. Sound and --play need fluidsynth and a soundfont:
 apt-get install fluidsynth fluid-soundfont-gm
 
-)";
+)");
 
-constexpr const char* examples = R"(Examples:
+constexpr const char* examples = message(R"(Examples:
   zyndle jam "I-V-vi-IV" --key G -o song.mid
   zyndle jam "C G/B Am F" --style "Travis Alternation" --play
   zyndle jam "Dm7 G7 Cmaj7" --style "Bossa Nova" --tempo 120 --play
   zyndle jam "G D Em C" --style "Rolling Six" --drums none --bars 16 -o song.wav
-  zyndle jam "A D E" --complexity 3 --library mine.json --play)";
+  zyndle jam "A D E" --complexity 3 --library mine.json --play)");
 
 constexpr const char* defaultStyle = "Campfire Strum";
 constexpr const char* nobody = "none";
@@ -85,13 +86,16 @@ struct JamOptions {
 enum class FileKind { none, midi, wav };
 
 FileKind readFileKind(const JamOptions& options) {
-  if (!options.file && !options.play) refuse("say where the music goes, with -o FILE or --play");
+  if (!options.file && !options.play) {
+    refuse(translated("say where the music goes, with {0} or {1}", "-o FILE", "--play"));
+  }
   if (!options.file) return FileKind::none;
   std::string name = *options.file;
   std::transform(name.begin(), name.end(), name.begin(), tonelake::lowercase);
   if (name == "-" || name.ends_with(".mid") || name.ends_with(".midi")) return FileKind::midi;
   if (name.ends_with(".wav")) return FileKind::wav;
-  refuse("-o " + tonelake::quoted(*options.file) + " ends neither in .mid nor in .wav");
+  refuse(translated("{0} {1} ends neither in .mid nor in .wav", "-o",
+                    tonelake::quoted(*options.file)));
 }
 
 // The pattern of a name. A CommandError that tells the nearest names when there is none.
@@ -101,7 +105,9 @@ const Pattern& readPattern(const std::string& option, const std::vector<Pattern>
   if (const Pattern* found = findPattern(patterns, name)) return *found;
   std::vector<std::string> names;
   addNames(names, patterns);
-  refuse("there is no " + option + " " + tonelake::quoted(name) + describeNearest(name, names));
+  // TRANSLATORS: an option and a name that its values lack: there is no --bass "Walkin".
+  refuse(translated("there is no {0} {1}", option, tonelake::quoted(name)) +
+         describeNearest(name, names));
 }
 
 // What bass or drums play: what was asked for, else what is linked to the arpeggio.
@@ -113,9 +119,10 @@ std::optional<Pattern> readPart(const std::string& option, const std::vector<Pat
   if (*name == nobody) return std::nullopt;
   const Pattern& pattern = readPattern(option, patterns, *name);
   if (pattern.timeSignature != timeSignature) {
-    refuse(option + " " + tonelake::quoted(pattern.name) + " is in " +
-           std::string(tonelake::rawValue(pattern.timeSignature)) + ", the style in " +
-           std::string(tonelake::rawValue(timeSignature)));
+    // TRANSLATORS: time signatures: --bass "Waltz Bass" is in 3/4, the style in 4/4.
+    refuse(translated("{0} {1} is in {2}, the style in {3}", option, tonelake::quoted(pattern.name),
+                      tonelake::rawValue(pattern.timeSignature),
+                      tonelake::rawValue(timeSignature)));
   }
   return pattern;
 }
@@ -157,19 +164,24 @@ std::string nameOf(const auto& pattern) {
   return pattern ? pattern->name : nobody;
 }
 
-std::string summary(const Accompaniment& piece, WholeNumber length) {
+std::string describeLength(const Accompaniment& piece, WholeNumber length) {
   constexpr WholeNumber secondsPerMinute = 60;
   const WholeNumber seconds =
       (length / tonelake::ticksPerCrotchet * secondsPerMinute + piece.tempo / 2) / piece.tempo;
+  // TRANSLATORS: a length, any of the numbers may be 1: "8 bars of 4/4 at 92: 21 seconds", where 92
+  // is the tempo.
+  return translated("{0} bars of {1} at {2}: {3} seconds", piece.bars,
+                    tonelake::rawValue(piece.arpeggio.timeSignature), piece.tempo, seconds);
+}
+
+std::string summary(const Accompaniment& piece, WholeNumber length) {
   std::vector<std::string> shapes;
   for (const auto& shape : piece.chords) shapes.push_back(shapeText(shape));
-  return labelledRow("Style", {piece.arpeggio.name}) + labelledRow("Bass", {nameOf(piece.bass)}) +
-         labelledRow("Drums", {nameOf(piece.drums)}) +
-         labelledRow("Length",
-                     {std::to_string(piece.bars) + " bars of " +
-                      std::string(tonelake::rawValue(piece.arpeggio.timeSignature)) + " at " +
-                      std::to_string(piece.tempo) + ": " + std::to_string(seconds) + " seconds"}) +
-         labelledRow("Shapes", shapes);
+  return labelledRow(translated("Style"), {piece.arpeggio.name}) +
+         labelledRow(translated("Bass"), {nameOf(piece.bass)}) +
+         labelledRow(translated("Drums"), {nameOf(piece.drums)}) +
+         labelledRow(translated("Length"), {describeLength(piece, length)}) +
+         labelledRow(translated("Shapes"), shapes);
 }
 
 desktop::Synthesizer readSynthesizer(const JamOptions& options) {
@@ -216,27 +228,29 @@ void jam(const JamOptions& options) {
 
 void addJamCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<JamOptions>();
-  CLI::App& command = *app.add_subcommand("jam", description);
-  command.footer(std::string(introduction) + examples);
-  command.add_option("CHORDS", options->chords, "Names of chords or Roman numerals, a bar each")
+  CLI::App& command = *app.add_subcommand("jam", translated(description));
+  command.footer(translated(introduction) + translated(examples));
+  command
+      .add_option("CHORDS", options->chords,
+                  translated("Names of chords or Roman numerals, a bar each"))
       ->required()
       ->type_name("");
   const auto addText = [&command](const char* name, auto& text, const char* meaning,
                                   const char* kind) {
-    command.add_option(name, text, meaning)->type_name(kind);
+    command.add_option(name, text, translated(meaning))->type_name(kind);
   };
-  addText("--key", options->key, "The key of Roman numerals (C)", "KEY");
-  addText("--style", options->style, "A way to pick or strum (Campfire Strum)", "NAME");
-  addText("--bass", options->bass, "A bass line, or none", "NAME");
-  addText("--drums", options->drums, "A groove, or none", "NAME");
-  addText("--complexity", options->complexity, "How busy bass and drums may be (1)", "N");
-  addText("--tempo", options->tempo, "Crotchets a minute (92)", "N");
-  addText("--bars", options->bars, "The length (8, or one for each chord)", "N");
-  addText("--library", options->library, "Read styles from a JSON file", "FILE");
-  addText("-o,--output", options->file, "Write a .mid or a .wav file", "FILE");
-  addText("--soundfont", options->soundfont, "The sounds to play with", "FILE");
-  command.add_flag("--play", options->play, "Play it aloud")->disable_flag_override();
-  command.add_flag("--ascii", options->ascii, "Write ASCII characters only")
+  addText("--key", options->key, message("The key of Roman numerals (C)"), "KEY");
+  addText("--style", options->style, message("A way to pick or strum (Campfire Strum)"), "NAME");
+  addText("--bass", options->bass, message("A bass line, or none"), "NAME");
+  addText("--drums", options->drums, message("A groove, or none"), "NAME");
+  addText("--complexity", options->complexity, message("How busy bass and drums may be (1)"), "N");
+  addText("--tempo", options->tempo, message("Crotchets a minute (92)"), "N");
+  addText("--bars", options->bars, message("The length (8, or one for each chord)"), "N");
+  addText("--library", options->library, message("Read styles from a JSON file"), "FILE");
+  addText("-o,--output", options->file, message("Write a .mid or a .wav file"), "FILE");
+  addText("--soundfont", options->soundfont, message("The sounds to play with"), "FILE");
+  command.add_flag("--play", options->play, translated("Play it aloud"))->disable_flag_override();
+  command.add_flag("--ascii", options->ascii, translated("Write ASCII characters only"))
       ->disable_flag_override();
   command.callback([options, &action] { action = [options] { jam(*options); }; });
 }

@@ -6,6 +6,7 @@
 #include "Tonelake/foundation/text.h"
 #include "zyndle/command_error.h"
 #include "zyndle/note_name.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -47,8 +48,8 @@ Chord readKey(const std::string& text, const std::string& typeOfRoot) {
   const bool isKey =
       root && tonelake::countCharacters(root->rawValue()) <= 2 && !root->rawValue().ends_with("𝄪");
   if (!isKey || !type) {
-    refuse("--key " + tonelake::quoted(text) +
-           " is not a key; keys look like G, \"A minor\" or Bbm");
+    refuse(translated(R"({0} {1} is not a key; keys look like G, "A minor" or Bbm)", "--key",
+                      tonelake::quoted(text)));
   }
   return {*root, *type, 0};
 }

@@ -1,3 +1,4 @@
+#include "Tonelake/platform/string_table.h"
 #include "zyndle/chord_command.h"
 #include "zyndle/collections_command.h"
 #include "zyndle/command_line.h"
@@ -18,12 +19,14 @@
 
 namespace {
 
+using tonelake::message;
+
 constexpr const char* jamProgram = "zyndle-jam";
-constexpr zyndle::Companion jam{"jam", "Play a row of chords as music", jamProgram};
-constexpr zyndle::Companion patterns{"patterns", "Show ways to pick, bass lines and grooves",
-                                     jamProgram};
+constexpr zyndle::Companion jam{"jam", message("Play a row of chords as music"), jamProgram};
+constexpr zyndle::Companion patterns{
+    "patterns", message("Show ways to pick, bass lines and grooves"), jamProgram};
 constexpr zyndle::Companion reminders{
-    "reminders", "Be reminded of the chord of the day every morning", "zyndle-reminders"};
+    "reminders", message("Be reminded of the chord of the day every morning"), "zyndle-reminders"};
 
 // In the order in which zyndle --help lists them.
 void addCommands(CLI::App& app, zyndle::Action& action, zyndle::Arguments arguments) {

@@ -10,7 +10,9 @@
 #include <vector>
 
 #include "Tonelake/accompaniment/pattern_repetition.h"
+#include "zyndle/text_columns.h"
 #include "zyndle/text_layout.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -21,7 +23,7 @@ using tonelake::DrumNoteType;
 using tonelake::NoteArticulation;
 using tonelake::WholeNumber;
 
-constexpr std::size_t labelWidth = 12;
+constexpr std::size_t leastLabelWidth = 12;
 
 struct Grid {
   WholeNumber bar;         // ticks
@@ -33,26 +35,43 @@ struct Grid {
 };
 
 // From the top of the grid to its bottom, as the strings and the drum kit lie.
-constexpr std::array<std::string_view, 8> arpeggioRows{"downstroke",  "upstroke",  "upper three",
-                                                       "finger down", "finger up", "alternate",
-                                                       "thumb",       "rest"};
-constexpr std::array<std::string_view, 4> bassRows{"octave", "fifth", "third", "root"};
+constexpr std::array<std::string_view, 8> arpeggioRows{
+    // TRANSLATORS: this and the next seven are rows of a picking grid: what the right hand does.
+    message("downstroke"),
+    message("upstroke"),
+    // TRANSLATORS: a row of a picking grid: the three highest strings together.
+    message("upper three"),
+    // TRANSLATORS: a row of a picking grid: a finger plucks the next string towards the floor.
+    message("finger down"),
+    message("finger up"),
+    // TRANSLATORS: a row of a picking grid: the alternate bass string of the thumb.
+    message("alternate"),
+    message("thumb"),
+    // TRANSLATORS: a row of a picking grid: silence.
+    message("rest"),
+};
+constexpr std::array<std::string_view, 4> bassRows{
+    // TRANSLATORS: this and the next three are rows of a bass grid: tones of the chord.
+    message("octave"), message("fifth"), message("third"), message("root")};
 
 struct DrumRow {
   DrumNoteType type;
   std::string_view label;
 };
-constexpr std::array<DrumRow, 11> drumRows{{{DrumNoteType::crash, "crash"},
-                                            {DrumNoteType::ride, "ride"},
-                                            {DrumNoteType::openHH, "open hat"},
-                                            {DrumNoteType::closedHH, "closed hat"},
-                                            {DrumNoteType::hiTom, "high tom"},
-                                            {DrumNoteType::midTom, "middle tom"},
-                                            {DrumNoteType::lowTom, "low tom"},
-                                            {DrumNoteType::rim, "rim shot"},
-                                            {DrumNoteType::sidestick, "side stick"},
-                                            {DrumNoteType::snare, "snare"},
-                                            {DrumNoteType::kick, "kick"}}};
+constexpr std::array<DrumRow, 11> drumRows{{
+    // TRANSLATORS: this and the next ten are rows of a drum grid.
+    {DrumNoteType::crash, message("crash")},
+    {DrumNoteType::ride, message("ride")},
+    {DrumNoteType::openHH, message("open hat")},
+    {DrumNoteType::closedHH, message("closed hat")},
+    {DrumNoteType::hiTom, message("high tom")},
+    {DrumNoteType::midTom, message("middle tom")},
+    {DrumNoteType::lowTom, message("low tom")},
+    {DrumNoteType::rim, message("rim shot")},
+    {DrumNoteType::sidestick, message("side stick")},
+    {DrumNoteType::snare, message("snare")},
+    {DrumNoteType::kick, message("kick")},
+}};
 
 char signOf(NoteArticulation articulation, WholeNumber velocity) {
   constexpr WholeNumber loud = 96;
@@ -143,17 +162,20 @@ char countSign(WholeNumber tick, WholeNumber column) {
   return column == beat ? ' ' : fine[static_cast<std::size_t>(place - 1)];
 }
 
-std::string labelled(std::string_view label) {
-  std::string text(label);
-  text.resize(labelWidth, ' ');
-  return text;
+std::string labelText(std::string_view row) {
+  return strings()->localized(row);
+}
+
+std::string padded(std::string text, std::size_t width) {
+  const std::size_t columns = countColumns(text);
+  return text.append(width > columns ? width - columns : 0, ' ');
 }
 
 // The columns of one row from a tick up to another, a bar line before every bar.
 template <typename SignAt>
 std::string rowText(std::string_view label, const Grid& grid, WholeNumber begin, WholeNumber end,
                     WholeNumber column, SignAt signAt) {
-  std::string text = labelled(label);
+  std::string text(label);
   for (WholeNumber tick = begin; tick < end; tick += column) {
     text += tick % grid.bar == 0 ? '|' : ' ';
     text += signAt(tick);
@@ -171,8 +193,17 @@ bool isUsed(const Grid& grid, std::string_view row) {
   return first != grid.marks.end() && first->first.first == row;
 }
 
+std::size_t widthOfLabels(const Grid& grid, std::span<const std::string_view> rows) {
+  std::size_t width = leastLabelWidth;
+  for (const std::string_view row : rows) {
+    if (isUsed(grid, row)) width = std::max(width, countColumns(labelText(row)) + 1);
+  }
+  return width;
+}
+
 std::string draw(const Grid& grid, std::span<const std::string_view> rows) {
-  if (grid.length == 0) return "It takes no time.\n";
+  if (grid.length == 0) return translated("It takes no time.") + '\n';
+  const std::size_t labelWidth = widthOfLabels(grid, rows);
   const WholeNumber column = columnOf(grid);
   const WholeNumber room = static_cast<WholeNumber>((pageWidth - labelWidth) / 2) * column;
   const WholeNumber atOnce = std::max<WholeNumber>(1, room / grid.bar) * grid.bar;
@@ -180,11 +211,11 @@ std::string draw(const Grid& grid, std::span<const std::string_view> rows) {
   for (WholeNumber begin = 0; begin < grid.length; begin += atOnce) {
     const WholeNumber end = std::min(grid.length, begin + atOnce);
     if (begin > 0) text += "\n";
-    text += rowText("", grid, begin, end, column,
+    text += rowText(padded("", labelWidth), grid, begin, end, column,
                     [&](WholeNumber tick) { return countSign(tick % grid.bar, column); });
     for (const std::string_view row : rows) {
       if (!isUsed(grid, row)) continue;
-      text += rowText(row, grid, begin, end, column,
+      text += rowText(padded(labelText(row), labelWidth), grid, begin, end, column,
                       [&](WholeNumber tick) { return signAt(grid, row, tick); });
     }
   }
@@ -192,6 +223,10 @@ std::string draw(const Grid& grid, std::span<const std::string_view> rows) {
 }
 
 }  // namespace
+
+std::string gridLegend() {
+  return translated("O loud   o medium   . soft   x muted") + '\n';
+}
 
 std::string drawGrid(const tonelake::ArpeggioSequence& pattern) {
   return draw(layOut(pattern.sequence, pattern.timeSignature), arpeggioRows);

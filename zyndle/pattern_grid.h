@@ -13,11 +13,12 @@ namespace zyndle {
 ///     thumb     |O - - - o - - -
 ///
 /// O is loud, o medium, . soft and x muted. Bars are drawn beside each other as far as a page is
-/// wide. A line that explains the signs is gridLegend.
+/// wide. The names of the rows are in the language of this run.
 std::string drawGrid(const tonelake::ArpeggioSequence& pattern);
 std::string drawGrid(const tonelake::BassPattern& pattern);
 std::string drawGrid(const tonelake::DrumPattern& pattern);
 
-inline constexpr const char* gridLegend = "O loud   o medium   . soft   x muted\n";
+/// A line that explains the signs of a grid.
+std::string gridLegend();
 
 }  // namespace zyndle

@@ -8,6 +8,7 @@
 #include "Tonelake/patterns/pattern_json.h"
 #include "zyndle/command_error.h"
 #include "zyndle/nearest_names.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -19,13 +20,14 @@ constexpr const char* largestFileText = "1 MiB";
 tonelake::ArpeggioSequences readSequences(const std::string& file) {
   const auto text = desktop::readFile(file, largestFile);
   if (!text) {
-    refuse("cannot read " + tonelake::quoted(file) + ", or it is larger than " + largestFileText);
+    refuse(translated("cannot read {0}, or it is larger than {1}", tonelake::quoted(file),
+                      largestFileText));
   }
   try {
     const tonelake::json::Value document = tonelake::json::parse(*text);
     return tonelake::decodePattern<tonelake::ArpeggioSequences>(tonelake::json::Node(document));
   } catch (const tonelake::json::DecodingError& error) {
-    refuse(tonelake::quoted(file) + " is no library of patterns: " + error.what());
+    refuse(translated("{0} is no library of patterns: {1}", tonelake::quoted(file), error.what()));
   }
 }
 
@@ -65,8 +67,8 @@ std::string describeNearest(std::string_view name, const std::vector<std::string
   for (const auto& [distance, candidate] : ranked) {
     if (nearest.size() < handful) nearest.push_back(candidate);
   }
-  if (nearest.empty()) return "; zyndle patterns lists all";
-  return "; the nearest are " + tonelake::join(nearest, ", ");
+  if (nearest.empty()) return "; " + translated("{} lists all", "zyndle patterns");
+  return "; " + translated("the nearest are {}", tonelake::join(nearest, ", "));
 }
 
 }  // namespace zyndle

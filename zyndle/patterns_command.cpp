@@ -17,6 +17,7 @@
 #include "zyndle/pattern_grid.h"
 #include "zyndle/pattern_names.h"
 #include "zyndle/text_layout.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -24,22 +25,22 @@ namespace {
 using tonelake::PatternLibrary;
 using tonelake::WholeNumber;
 
-constexpr const char* description = "Show ways to pick, bass lines and grooves";
+constexpr const char* description = message("Show ways to pick, bass lines and grooves");
 
 constexpr const char* introduction =
-    R"(Without a NAME it lists all patterns; with one it draws the pattern as a grid
+    message(R"(Without a NAME it lists all patterns; with one it draws the pattern as a grid
 and tells how to play it and what goes with it.
 
 With --json it writes the pattern as a library of its own. Edit it and hear
 your version with zyndle jam --library FILE.
 
-)";
+)");
 
-constexpr const char* examples = R"(Examples:
+constexpr const char* examples = message(R"(Examples:
   zyndle patterns
   zyndle patterns "Campfire Strum"
   zyndle patterns "bossa nova"
-  zyndle patterns "Rolling Six" --json > mine.json)";
+  zyndle patterns "Rolling Six" --json > mine.json)");
 
 struct PatternsOptions {
   std::vector<std::string> name;  // the words of it
@@ -54,8 +55,10 @@ std::string timingOf(const std::vector<Step>& steps, tonelake::TimeSignature tim
   for (const Step& step : steps) length += tonelake::lengthOf(step);
   const WholeNumber bar = tonelake::ticksOfBar(timeSignature);
   const WholeNumber bars = (length + bar - 1) / bar;
-  return std::string(tonelake::rawValue(timeSignature)) + ", " + std::to_string(bars) +
-         (bars == 1 ? " bar" : " bars");
+  const auto signature = tonelake::rawValue(timeSignature);
+  // TRANSLATORS: a time signature and a length: "4/4, 2 bars".
+  return bars == 1 ? translated("{}, 1 bar", signature)
+                   : translated("{0}, {1} bars", signature, bars);
 }
 
 std::string timing(const tonelake::ArpeggioSequence& pattern) {
@@ -84,15 +87,15 @@ std::string listOf(const std::string& title, const std::vector<Pattern>& pattern
 }
 
 std::string listAll(const PatternLibrary& library) {
-  return listOf("Ways to pick and strum", library.arpeggios.sequences) + "\n" +
-         listOf("Bass lines", library.basses.bassPatterns) + "\n" +
-         listOf("Grooves", library.drums.drumPatterns);
+  return listOf(translated("Ways to pick and strum"), library.arpeggios.sequences) + "\n" +
+         listOf(translated("Bass lines"), library.basses.bassPatterns) + "\n" +
+         listOf(translated("Grooves"), library.drums.drumPatterns);
 }
 
 template <typename Pattern>
 std::string sheetOf(const Pattern& pattern) {
   return pattern.name + " (" + timing(pattern) + ")\n\n" + paragraph(pattern.description) + "\n" +
-         drawGrid(pattern) + "\n" + gridLegend;
+         drawGrid(pattern) + "\n" + gridLegend();
 }
 
 // "Bossa Bass (1)": a linked pattern and its complexity.
@@ -110,8 +113,10 @@ std::string companionsOf(const tonelake::ArpeggioSequence& arpeggio) {
     drums.push_back(linkText(link.drumPattern.name, link.complexity));
   }
   if (basses.empty() && drums.empty()) return "";
-  return "\nWith it go, by complexity,\n" + (basses.empty() ? "" : labelledRow("Bass", basses)) +
-         (drums.empty() ? "" : labelledRow("Drums", drums));
+  // TRANSLATORS: a line above names of bass lines and grooves: "Bossa Bass (1), Busy Bossa (3)".
+  return '\n' + translated("With it go, by complexity,") + '\n' +
+         (basses.empty() ? "" : labelledRow(translated("Bass"), basses)) +
+         (drums.empty() ? "" : labelledRow(translated("Drums"), drums));
 }
 
 template <typename Library>
@@ -124,7 +129,8 @@ std::string jsonOf(const Library& library) {
   addNames(names, library.arpeggios.sequences);
   addNames(names, library.basses.bassPatterns);
   addNames(names, library.drums.drumPatterns);
-  refuse("no pattern is named " + tonelake::quoted(name) + describeNearest(name, names));
+  refuse(translated("no pattern is named {}", tonelake::quoted(name)) +
+         describeNearest(name, names));
 }
 
 std::string show(const PatternLibrary& library, const std::string& name, bool json) {
@@ -154,13 +160,17 @@ void showPatterns(const PatternsOptions& options) {
 
 void addPatternsCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<PatternsOptions>();
-  CLI::App& command = *app.add_subcommand("patterns", description);
-  command.footer(std::string(introduction) + examples);
-  command.add_option("NAME", options->name, "The pattern's name, in one word or several")
+  CLI::App& command = *app.add_subcommand("patterns", translated(description));
+  command.footer(translated(introduction) + translated(examples));
+  command
+      .add_option("NAME", options->name, translated("The pattern's name, in one word or several"))
       ->type_name("");
-  command.add_option("--library", options->library, "Read ways to pick and strum from here")
+  command
+      .add_option("--library", options->library,
+                  translated("Read ways to pick and strum from here"))
       ->type_name("FILE");
-  command.add_flag("--json", options->json, "Write a library in JSON")->disable_flag_override();
+  command.add_flag("--json", options->json, translated("Write a library in JSON"))
+      ->disable_flag_override();
   command.callback([options, &action] { action = [options] { showPatterns(*options); }; });
 }
 

@@ -21,6 +21,7 @@
 #include "zyndle/output_options.h"
 #include "zyndle/progression_text.h"
 #include "zyndle/text_layout.h"
+#include "zyndle/translation.h"
 #include "zyndle/voicing_record.h"
 
 namespace zyndle {
@@ -31,23 +32,23 @@ using tonelake::ChordProgression;
 using tonelake::Voicings::Voicing;
 namespace ChordProgressions = tonelake::ChordProgressions;
 
-constexpr const char* description = "Show the chords of a progression in a key";
+constexpr const char* description = message("Show the chords of a progression in a key");
 
 constexpr const char* introduction =
-    R"(A numeral is a chord on that step of the key, in capitals major, in small
+    message(R"(A numeral is a chord on that step of the key, in capitals major, in small
 letters minor; b and # before it lower and raise it. A key is a note, with
 major or minor: without either it is minor when the progression has an i.
 Known progressions, see zyndle progressions, are described in words. Every chord
 is drawn in its easiest shape; zyndle connect finds shapes that lie close.
 
-)";
+)");
 
-constexpr const char* examples = R"(
+constexpr const char* examples = message(R"(
 Examples:
   zyndle progression "I-V-vi-IV" --key G
   zyndle progression I bVII IV I --key D
   zyndle progression i-VI-III-VII --key "F# minor"
-  zyndle progression ii-V-I --key Bb --svg two-five-one.svg)";
+  zyndle progression ii-V-I --key Bb --svg two-five-one.svg)");
 
 // Learners meet progressions here: the shape that everybody knows counts for more than the shortest
 // way to the next one, which zyndle connect finds.
@@ -83,7 +84,8 @@ ShownProgression makeShown(const ProgressionOptions& options, const Instrument& 
 }
 
 std::string headingOf(const ShownProgression& shown) {
-  return shown.progression.progression + " in " + nameOfKey(shown.key);
+  // TRANSLATORS: a progression in a key: "I-V-vi-IV in G major".
+  return translated("{0} in {1}", shown.progression.progression, nameOfKey(shown.key));
 }
 
 std::string jsonOf(const ShownProgression& shown) {
@@ -107,11 +109,12 @@ std::string jsonOf(const ShownProgression& shown) {
 std::string textOf(const ShownProgression& shown, const DrawingStyle& style) {
   const ChordProgression& progression = shown.progression;
   std::string text = emphasized(headingOf(shown), style) + '\n';
-  text += labelledRow("Chords", ChordProgressions::getChordTitles(progression, shown.key));
+  text +=
+      labelledRow(translated("Chords"), ChordProgressions::getChordTitles(progression, shown.key));
   std::vector<std::string> styles;
   for (const tonelake::MusicStyles known : progression.styles)
     styles.emplace_back(known.rawValue());
-  if (!styles.empty()) text += labelledRow("Styles", styles);
+  if (!styles.empty()) text += labelledRow(translated("Styles"), styles);
   text += instrumentRows(shown.instrument) + '\n';
   if (!progression.description.empty()) {
     text += paragraph(ChordProgressions::getDescription(progression, shown.key)) + '\n';
@@ -136,16 +139,20 @@ void showProgression(const ProgressionOptions& options) {
 
 void addProgressionCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<ProgressionOptions>();
-  CLI::App& command = *app.add_subcommand("progression", description);
-  command.footer(std::string(introduction) + instrumentHelp + examples);
-  command.add_option("NUMERALS", options->numerals, "The chords as Roman numerals, in their order")
+  CLI::App& command = *app.add_subcommand("progression", translated(description));
+  command.footer(translated(introduction) + translated(instrumentHelp) + translated(examples));
+  command
+      .add_option("NUMERALS", options->numerals,
+                  translated("The chords as Roman numerals, in their order"))
       ->required()
       ->type_name("");
-  command.add_option("--key", options->key, "The key (C, or A minor)")->type_name("KEY");
+  command.add_option("--key", options->key, translated("The key (C, or A minor)"))
+      ->type_name("KEY");
   addInstrumentOptions(command, options->instrument);
   addTextOptions(command, options->output);
   command
-      .add_option("--svg", options->output.svgFile, "Draw the shapes too; - for standard output")
+      .add_option("--svg", options->output.svgFile,
+                  translated("Draw the shapes too; - for standard output"))
       ->type_name("FILE");
   command.callback([options, &action] { action = [options] { showProgression(*options); }; });
 }

@@ -6,6 +6,7 @@
 
 #include "Tonelake/foundation/text.h"
 #include "zyndle/command_error.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -40,11 +41,12 @@ std::string readProgression(const std::vector<std::string>& words) {
   for (const std::string_view typed : tonelake::splitWords(text, separators)) {
     numerals.push_back(withSigns(typed));
     if (!isNumeral(withoutSigns(numerals.back()))) {
-      refuse(tonelake::quoted(typed) +
-             " is not a plain triad: I to VII, small letters for minor, b or # before it");
+      refuse(
+          translated("{} is not a plain triad: I to VII, small letters for minor, b or # before it",
+                     tonelake::quoted(typed)));
     }
   }
-  if (numerals.empty()) refuse("NUMERALS names no chord");
+  if (numerals.empty()) refuse(translated("{} names no chord", "NUMERALS"));
   return tonelake::join(numerals, "-");
 }
 

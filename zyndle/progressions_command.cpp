@@ -18,6 +18,7 @@
 #include "zyndle/key_name.h"
 #include "zyndle/output_options.h"
 #include "zyndle/text_layout.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -27,14 +28,14 @@ using tonelake::ChordProgression;
 using tonelake::MusicStyles;
 namespace ChordProgressions = tonelake::ChordProgressions;
 
-constexpr const char* description = "List well-known progressions and what they do";
+constexpr const char* description = message("List well-known progressions and what they do");
 
-constexpr const char* examples = R"(
+constexpr const char* examples = message(R"(
 Examples:
   zyndle progressions
   zyndle progressions --key "A minor"
   zyndle progressions --key Eb --style rock
-  zyndle progression I-V-vi-IV --key Eb    how to play one of them)";
+  zyndle progression I-V-vi-IV --key Eb    how to play one of them)");
 
 struct ProgressionsOptions {
   std::optional<std::string> key;
@@ -86,8 +87,8 @@ std::optional<MusicStyles> readStyle(const std::optional<std::string>& text) {
     const bool isRawValue = lettersOf(style.rawValue()) == lettersOf(*text);
     if (isRawValue || lettersOf(style.caseName()) == lettersOf(*text)) return style;
   }
-  refuse("--style " + tonelake::quoted(*text) + " is not one of " +
-         tonelake::join(usedStyles(), ", "));
+  refuse(translated("{0} {1} is not one of {2}", "--style", tonelake::quoted(*text),
+                    tonelake::join(usedStyles(), ", ")));
 }
 
 std::vector<Listing> listProgressions(const ProgressionsOptions& options) {
@@ -137,14 +138,15 @@ std::string textOf(const std::vector<Listing>& listings, const DrawingStyle& sty
   std::string text;
   for (const Listing& listing : listings) {
     text += (text.empty() ? "" : "\n") +
-            emphasized("Progressions in " + nameOfKey(listing.key), style) + '\n';
+            // TRANSLATORS: a heading, {} is a key: "Progressions in A minor".
+            emphasized(translated("Progressions in {}", nameOfKey(listing.key)), style) + '\n';
     for (const ChordProgression& progression : listing.progressions) {
       text += '\n' + textOf(progression, listing.key, style);
     }
   }
   if (!text.empty()) return text;
-  return "No progression of this key and style is listed; the styles in use are\n" +
-         paragraph(tonelake::join(usedStyles(), ", "), 2);
+  return translated("No progression of this key and style is listed; the styles in use are") +
+         '\n' + paragraph(tonelake::join(usedStyles(), ", "), 2);
 }
 
 void showProgressions(const ProgressionsOptions& options) {
@@ -158,11 +160,11 @@ void showProgressions(const ProgressionsOptions& options) {
 
 void addProgressionsCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<ProgressionsOptions>();
-  CLI::App& command = *app.add_subcommand("progressions", description);
-  command.footer(examples);
-  command.add_option("--key", options->key, "Only of this key (both of C and A minor)")
+  CLI::App& command = *app.add_subcommand("progressions", translated(description));
+  command.footer(translated(examples));
+  command.add_option("--key", options->key, translated("Only of this key (both of C and A minor)"))
       ->type_name("KEY");
-  command.add_option("--style", options->style, "Only of this style, for example rock")
+  command.add_option("--style", options->style, translated("Only of this style, for example rock"))
       ->type_name("STYLE");
   addFormatOptions(command, options->output);
   command.callback([options, &action] { action = [options] { showProgressions(*options); }; });

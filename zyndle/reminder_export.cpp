@@ -11,6 +11,7 @@
 #include "zyndle/host.h"
 #include "zyndle/output.h"
 #include "zyndle/reminder_store.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -57,12 +58,13 @@ void numberReminders(std::vector<CalendarReminder>& reminders,
 }  // namespace
 
 void exportReminders(const MonthOptions& options, const std::string& file) {
-  if (file.empty()) refuse("-o needs the name of a file, or - for standard output");
+  if (file.empty())
+    refuse(translated("{} needs the name of a file, or - for standard output", "-o"));
   installHost(true);
   const auto store = openReminders();
   std::vector<CalendarReminder> reminders = remindersOfMonth(options, *store);
   // A calendar without any event is not a valid one.
-  if (reminders.empty()) fail("there is no day left in that month to export");
+  if (reminders.empty()) fail(translated("there is no day left in that month to export"));
   numberReminders(reminders, *store);
   writeFile(file,
             desktop::writeReminderCalendar(reminders, tonelake::processPlatform().calendar->now()));

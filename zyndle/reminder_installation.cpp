@@ -12,6 +12,7 @@
 #include "zyndle/command_error.h"
 #include "zyndle/output.h"
 #include "zyndle/reminder_units.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -26,13 +27,13 @@ std::optional<std::string> absoluteVariable(const char* name) {
 filesystem::path unitFolder() {
   if (const auto config = absoluteVariable("XDG_CONFIG_HOME")) return *config + "/systemd/user";
   if (const auto home = absoluteVariable("HOME")) return *home + "/.config/systemd/user";
-  fail("neither XDG_CONFIG_HOME nor HOME says where the timer belongs");
+  fail(translated("neither {0} nor {1} says where the timer belongs", "XDG_CONFIG_HOME", "HOME"));
 }
 
 DeliveryCommand deliveryCommand() {
   std::error_code error;
   const filesystem::path program = filesystem::read_symlink("/proc/self/exe", error);
-  if (error) fail("cannot tell where zyndle is installed: " + error.message());
+  if (error) fail(translated("cannot tell where zyndle is installed: {}", error.message()));
   return {program.string(), absoluteVariable("XDG_DATA_HOME")};
 }
 
@@ -51,7 +52,7 @@ bool controlSystemd(std::vector<std::string> arguments) {
 bool removeUnit(const filesystem::path& file) {
   std::error_code error;
   const bool wasThere = filesystem::remove(file, error);
-  if (error) fail("cannot delete " + file.string() + ": " + error.message());
+  if (error) fail(translated("cannot delete {0}: {1}", file.string(), error.message()));
   return wasThere;
 }
 
@@ -60,8 +61,8 @@ bool removeUnit(const filesystem::path& file) {
 void checkUnits(const filesystem::path& service, const filesystem::path& timer) {
   if (!isInstalled("systemd-analyze") || !absoluteVariable("XDG_RUNTIME_DIR")) return;
   if (runQuietly({"systemd-analyze", "--user", "verify", service.string(), timer.string()})) return;
-  fail("systemd does not take the timer; systemd-analyze --user verify " + timer.string() +
-       " says why");
+  fail(translated("systemd does not take the timer; {} says why",
+                  "systemd-analyze --user verify " + timer.string()));
 }
 
 }  // namespace
@@ -71,7 +72,7 @@ void installReminders() {
   const DeliveryCommand command = deliveryCommand();
   std::error_code error;
   filesystem::create_directories(folder, error);
-  if (error) fail("cannot make the folder " + folder.string() + ": " + error.message());
+  if (error) fail(translated("cannot make the folder {0}: {1}", folder.string(), error.message()));
   const filesystem::path service = folder / serviceUnitName;
   const filesystem::path timer = folder / timerUnitName;
   writeFile(service.string(), serviceUnit(command));
@@ -80,9 +81,9 @@ void installReminders() {
   std::string text = service.string() + '\n' + timer.string() + '\n';
   const bool isRunning =
       controlSystemd({"daemon-reload"}) && controlSystemd({"enable", "--now", timerUnitName});
-  text += isRunning ? "The timer is running.\n"
-                    : "The timer is not running: no systemd answers to this user here.\n";
-  text += "Without systemd, add this line by crontab -e instead:\n";
+  text += isRunning ? translated("The timer is running.")
+                    : translated("The timer is not running: no systemd answers to this user here.");
+  text += '\n' + translated("Without systemd, add this line by {} instead:", "crontab -e") + '\n';
   writeStandardOutput(text + cronLine(command, busAddress()) + '\n');
 }
 
@@ -92,8 +93,9 @@ void uninstallReminders() {
   const bool hadTimer = removeUnit(folder / timerUnitName);
   const bool hadService = removeUnit(folder / serviceUnitName);
   controlSystemd({"daemon-reload"});
-  writeStandardOutput(hadTimer || hadService ? "The timer is removed.\n"
-                                             : "There was no timer to remove.\n");
+  writeStandardOutput((hadTimer || hadService ? translated("The timer is removed.")
+                                              : translated("There was no timer to remove.")) +
+                      '\n');
 }
 
 }  // namespace zyndle

@@ -11,6 +11,7 @@
 #include "zyndle/host.h"
 #include "zyndle/output.h"
 #include "zyndle/reminder_store.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -28,8 +29,10 @@ Delivery deliverDue(desktop::SqliteNotificationStore& store, desktop::Notificati
 
 std::string describeProblem(const Delivery& delivery) {
   if (delivery.waiting == 0) return *delivery.problem;
-  return *delivery.problem + "; " + countReminders(static_cast<std::size_t>(delivery.waiting)) +
-         " kept for the next delivery";
+  return *delivery.problem + "; " +
+         translated(delivery.waiting == 1 ? message("1 reminder kept for the next delivery")
+                                          : message("{} reminders kept for the next delivery"),
+                    delivery.waiting);
 }
 
 // What is due already was tried just now and has to wait its turn.
@@ -42,7 +45,8 @@ milliseconds timeToSleep(desktop::SqliteNotificationStore& store) {
 }
 
 void openLink(const std::string& link) {
-  if (!startQuietly({"xdg-open", link})) reportProblem("xdg-open is missing, which opens " + link);
+  if (startQuietly({"xdg-open", link})) return;
+  reportProblem(translated("{0} is missing, which opens {1}", "xdg-open", link));
 }
 
 [[noreturn]] void deliverForGood(desktop::SqliteNotificationStore& store) {
@@ -66,7 +70,10 @@ void deliverReminders(bool wait) {
   desktop::DbusNotificationPoster poster;
   const Delivery delivery = deliverDue(*store, poster);
   if (delivery.posted > 0) {
-    writeStandardOutput(countReminders(static_cast<std::size_t>(delivery.posted)) + " delivered\n");
+    writeStandardOutput(translated(delivery.posted == 1 ? message("1 reminder delivered")
+                                                        : message("{} reminders delivered"),
+                                   delivery.posted) +
+                        '\n');
   }
   if (delivery.problem) fail(describeProblem(delivery));
 }

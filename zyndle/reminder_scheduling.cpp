@@ -11,6 +11,7 @@
 #include "zyndle/number_option.h"
 #include "zyndle/output.h"
 #include "zyndle/reminder_store.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
@@ -25,6 +26,25 @@ std::string describe(const StoredNotification& reminder) {
   return fmt::format("{:04}-{:02}-{:02} {:02}:{:02}:{:02}  {:8}  {}\n", time.year, time.month,
                      time.day, time.hour, time.minute, time.second,
                      reminderCategory(reminder.request), printable(reminder.request.body));
+}
+
+// A text about so many reminders; `several` has a place for their number.
+struct CountedText {
+  const char* none;
+  const char* one;
+  const char* several;
+};
+
+constexpr CountedText scheduledText{message("no reminders scheduled"),
+                                    message("1 reminder scheduled"),
+                                    message("{} reminders scheduled")};
+constexpr CountedText cancelledText{message("no reminders cancelled"),
+                                    message("1 reminder cancelled"),
+                                    message("{} reminders cancelled")};
+
+void tell(const CountedText& text, std::size_t count) {
+  const char* const some = count == 1 ? text.one : text.several;
+  writeStandardOutput(translated(count == 0 ? text.none : some, count) + '\n');
 }
 
 }  // namespace
@@ -47,9 +67,11 @@ void scheduleReminders(const MonthOptions& options) {
   const auto center = std::make_shared<desktop::StoredNotificationCenter>(
       *store, [&](const auto& request) { return reminderLink(request, library); });
   scheduleMonth(options, center);
-  writeStandardOutput(countReminders(static_cast<std::size_t>(center->kept())) + " scheduled\n");
+  tell(scheduledText, static_cast<std::size_t>(center->kept()));
   if (center->refused() > 0) {
-    fail(countReminders(static_cast<std::size_t>(center->refused())) + " could not be kept");
+    fail(translated(center->refused() == 1 ? message("1 reminder could not be kept")
+                                           : message("{} reminders could not be kept"),
+                    center->refused()));
   }
 }
 
@@ -59,7 +81,7 @@ void listReminders() {
   for (const StoredNotification& reminder : pendingReminders(*openReminders())) {
     text += describe(reminder);
   }
-  writeStandardOutput(text.empty() ? "(none)\n" : text);
+  writeStandardOutput(text.empty() ? translated("(none)") + '\n' : text);
 }
 
 void cancelReminders(const std::optional<std::string>& category) {
@@ -73,7 +95,7 @@ void cancelReminders(const std::optional<std::string>& category) {
     if (removal.problem) fail(*removal.problem);
     if (removal.isDone) ++count;
   }
-  writeStandardOutput(countReminders(count) + " cancelled\n");
+  tell(cancelledText, count);
 }
 
 }  // namespace zyndle

@@ -33,8 +33,4 @@ std::string reminderCategory(const tonelake::NotificationRequest& request) {
   return key ? std::string(key->category.rawValue()) : "";
 }
 
-std::string countReminders(std::size_t count) {
-  return (count == 0 ? "no" : std::to_string(count)) + (count == 1 ? " reminder" : " reminders");
-}
-
 }  // namespace zyndle

@@ -23,7 +23,4 @@ std::string reminderLink(const tonelake::NotificationRequest& request,
 /// "jazz" for a reminder of that category, "" for any other notification.
 std::string reminderCategory(const tonelake::NotificationRequest& request);
 
-/// "3 reminders", "1 reminder", "no reminders".
-std::string countReminders(std::size_t count);
-
 }  // namespace zyndle

@@ -10,14 +10,15 @@
 #include "zyndle/reminder_installation.h"
 #include "zyndle/reminder_posting.h"
 #include "zyndle/reminder_scheduling.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
 
-constexpr const char* description = "Be reminded of the chord of the day every morning";
+constexpr const char* description = message("Be reminded of the chord of the day every morning");
 
 constexpr const char* examples =
-    R"(A reminder a day and category, at some moment between 08:00 and 08:16. They are
+    message(R"(A reminder a day and category, at some moment between 08:00 and 08:16. They are
 scheduled a month at a time; scheduling a month again replaces its reminders.
 
 Examples:
@@ -29,34 +30,42 @@ Examples:
   zyndle reminders install                   from now on, a timer delivers them
   zyndle reminders deliver --wait            deliver while this runs; a click on a
                                              reminder opens its chord
-  zyndle reminders export -o chords.ics      for a calendar, on a telephone say)";
+  zyndle reminders export -o chords.ics      for a calendar, on a telephone say)");
 
 void addMonthOptions(CLI::App& command, MonthOptions& options) {
-  command.add_option("--month-offset", options.monthOffset, "Months from now; else 0, this month")
+  command
+      .add_option("--month-offset", options.monthOffset,
+                  translated("Months from now; else 0, this month"))
       ->type_name("N");
-  command.add_option("--category", options.category, "beginner, advanced or jazz; else as set")
+  command
+      .add_option("--category", options.category,
+                  translated("beginner, advanced or jazz; else as set"))
       ->type_name("CATEGORY");
 }
 
 void addDelivery(CLI::App& command, Action& action) {
-  CLI::App& deliver = *command.add_subcommand("deliver", "Show the reminders that are due");
+  CLI::App& deliver =
+      *command.add_subcommand("deliver", translated("Show the reminders that are due"));
   const auto wait = std::make_shared<bool>(false);
-  deliver.add_flag("--wait", *wait, "Stay, show each in its time and open what is clicked");
+  deliver.add_flag("--wait", *wait,
+                   translated("Stay, show each in its time and open what is clicked"));
   deliver.callback([wait, &action] { action = [wait] { deliverReminders(*wait); }; });
 
-  CLI::App& install = *command.add_subcommand("install", "Have a systemd timer deliver them");
+  CLI::App& install =
+      *command.add_subcommand("install", translated("Have a systemd timer deliver them"));
   install.callback([&action] { action = installReminders; });
 
-  CLI::App& uninstall = *command.add_subcommand("uninstall", "Remove that timer");
+  CLI::App& uninstall = *command.add_subcommand("uninstall", translated("Remove that timer"));
   uninstall.callback([&action] { action = uninstallReminders; });
 }
 
 void addExport(CLI::App& command, Action& action) {
-  CLI::App& app = *command.add_subcommand("export", "Write a month's reminders for a calendar");
+  CLI::App& app =
+      *command.add_subcommand("export", translated("Write a month's reminders for a calendar"));
   const auto options = std::make_shared<MonthOptions>();
   const auto file = std::make_shared<std::string>();
   addMonthOptions(app, *options);
-  app.add_option("-o", *file, "The iCalendar file to write, - for standard output")
+  app.add_option("-o", *file, translated("The iCalendar file to write, - for standard output"))
       ->required()
       ->type_name("FILE");
   app.callback(
@@ -66,21 +75,23 @@ void addExport(CLI::App& command, Action& action) {
 }  // namespace
 
 void addRemindersCommand(CLI::App& app, Action& action) {
-  CLI::App& command = *app.add_subcommand("reminders", description);
-  command.footer(examples);
+  CLI::App& command = *app.add_subcommand("reminders", translated(description));
+  command.footer(translated(examples));
   command.require_subcommand(1);
 
-  CLI::App& schedule = *command.add_subcommand("schedule", "Schedule the days left of a month");
+  CLI::App& schedule =
+      *command.add_subcommand("schedule", translated("Schedule the days left of a month"));
   const auto options = std::make_shared<MonthOptions>();
   addMonthOptions(schedule, *options);
   schedule.callback([options, &action] { action = [options] { scheduleReminders(*options); }; });
 
-  CLI::App& list = *command.add_subcommand("list", "List those that are still to come");
+  CLI::App& list = *command.add_subcommand("list", translated("List those that are still to come"));
   list.callback([&action] { action = listReminders; });
 
-  CLI::App& cancel = *command.add_subcommand("cancel", "Forget them");
+  CLI::App& cancel = *command.add_subcommand("cancel", translated("Forget them"));
   const auto category = std::make_shared<std::optional<std::string>>();
-  cancel.add_option("--category", *category, "Only those of beginner, advanced or jazz")
+  cancel
+      .add_option("--category", *category, translated("Only those of beginner, advanced or jazz"))
       ->type_name("CATEGORY");
   cancel.callback([category, &action] { action = [category] { cancelReminders(*category); }; });
 

@@ -5,6 +5,7 @@
 
 #include "Tonelake/foundation/text.h"
 #include "zyndle/command_error.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 
@@ -15,7 +16,8 @@ double readScale(const std::string& text) {
   const auto [stop, error] = std::from_chars(text.data(), end, scale);
   const bool isNumber = error == std::errc() && stop == end;
   if (!isNumber || !(scale > 0 && scale <= largestScale)) {
-    refuse("--scale " + tonelake::quoted(text) + " is not a number above 0, up to 100");
+    refuse(translated("{0} {1} is not a number above 0, up to 100", "--scale",
+                      tonelake::quoted(text)));
   }
   return scale;
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "Tonelake/foundation/text.h"
 #include "zyndle/text_columns.h"
 
 namespace zyndle {

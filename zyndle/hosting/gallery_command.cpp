@@ -11,18 +11,19 @@
 #include "zyndle/hosting/gallery_files.h"
 #include "zyndle/output.h"
 #include "zyndle/scale_option.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
 
 constexpr const char* examples =
-    R"(DIR gets each widget in each family as a picture and index.html, which shows
+    message(R"(DIR gets each widget in each family as a picture and index.html, which shows
 them as a home screen does. There a pointer plucks strings, and a tap follows the
 link of a card.
 
 Examples:
   zyndle gallery widgets && xdg-open widgets/index.html
-  zyndle gallery widgets --scale 3       as PNG too, three pixels a point)";
+  zyndle gallery widgets --scale 3       as PNG too, three pixels a point)");
 
 struct Options {
   std::string folder;
@@ -30,7 +31,7 @@ struct Options {
 };
 
 void showGallery(const Options& options) {
-  if (options.folder.empty()) refuse("DIR is empty");
+  if (options.folder.empty()) refuse(translated("{} is empty", "DIR"));
   const std::optional<double> scale =
       options.scale ? std::optional(readScale(*options.scale)) : std::nullopt;
   const GalleryOptions gallery{options.folder, scale, std::nullopt};
@@ -47,12 +48,15 @@ void showGallery(const Options& options) {
 
 void addGalleryCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<Options>();
-  CLI::App& command = *app.add_subcommand(galleryCompanion.name, galleryCompanion.description);
-  command.footer(examples);
-  command.add_option("DIR", options->folder, "The folder, made where it is missing")
+  CLI::App& command =
+      *app.add_subcommand(galleryCompanion.name, translated(galleryCompanion.description));
+  command.footer(translated(examples));
+  command.add_option("DIR", options->folder, translated("The folder, made where it is missing"))
       ->required()
       ->type_name("");
-  command.add_option("--scale", options->scale, "Write PNG too, with so many pixels a point")
+  command
+      .add_option("--scale", options->scale,
+                  translated("Write PNG too, with so many pixels a point"))
       ->type_name("NUMBER");
   command.callback([options, &action] { action = [options] { showGallery(*options); }; });
 }

@@ -13,19 +13,20 @@
 #include "zyndle/hosting/system_wake_ups.h"
 #include "zyndle/output.h"
 #include "zyndle/scale_option.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
 
 constexpr const char* examples =
-    R"(DIR gets what "zyndle gallery" writes, and is kept up to date: at midnight the
+    message(R"(DIR gets what "zyndle gallery" writes, and is kept up to date: at midnight the
 chord of the day changes, and a change of the settings shows at once. Files are
 replaced in one step. The page loads itself again every minute, so that it can
 hang on a wall. Stop it with Ctrl-C, or with SIGTERM.
 
 Examples:
   zyndle host ~/widgets &
-  zyndle host ~/widgets --scale 2        as PNG too, for a panel or a desktop)";
+  zyndle host ~/widgets --scale 2        as PNG too, for a panel or a desktop)");
 
 constexpr int secondsToReload = 60;
 
@@ -66,7 +67,7 @@ class GalleryKeeper {
 };
 
 void hostWidgets(const Options& options) {
-  if (options.folder.empty()) refuse("DIR is empty");
+  if (options.folder.empty()) refuse(translated("{} is empty", "DIR"));
   const std::optional<double> scale =
       options.scale ? std::optional(readScale(*options.scale)) : std::nullopt;
   const GalleryOptions gallery{options.folder, scale, secondsToReload};
@@ -89,12 +90,15 @@ void hostWidgets(const Options& options) {
 
 void addHostCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<Options>();
-  CLI::App& command = *app.add_subcommand(hostCompanion.name, hostCompanion.description);
-  command.footer(examples);
-  command.add_option("DIR", options->folder, "The folder, made where it is missing")
+  CLI::App& command =
+      *app.add_subcommand(hostCompanion.name, translated(hostCompanion.description));
+  command.footer(translated(examples));
+  command.add_option("DIR", options->folder, translated("The folder, made where it is missing"))
       ->required()
       ->type_name("");
-  command.add_option("--scale", options->scale, "Write PNG too, with so many pixels a point")
+  command
+      .add_option("--scale", options->scale,
+                  translated("Write PNG too, with so many pixels a point"))
       ->type_name("NUMBER");
   command.callback([options, &action] { action = [options] { hostWidgets(*options); }; });
 }

@@ -14,6 +14,8 @@
 #include <sys/signalfd.h>
 #include <unistd.h>
 
+#include "zyndle/translation.h"
+
 namespace zyndle {
 namespace {
 
@@ -35,7 +37,8 @@ SystemWakeUps::SystemWakeUps(const std::string& settingsFile)
   const std::string folder = std::filesystem::path(settingsFile).parent_path();
   changes_ = ::inotify_init1(IN_CLOEXEC | IN_NONBLOCK);
   if (changes_ < 0 || ::inotify_add_watch(changes_, folder.c_str(), anyChange) < 0) {
-    problem_ = "cannot watch \"" + folder + "\": " + std::generic_category().message(errno);
+    const std::string reason = std::generic_category().message(errno);
+    problem_ = translated("cannot watch {0}: {1}", '"' + folder + '"', reason);
   }
 }
 
