@@ -107,6 +107,7 @@ WidgetFamily readFamily(const WidgetOptions& options, const WidgetDescription& w
     return *family;
   }
   std::vector<std::string> names;
+  names.reserve(families.size());
   for (const WidgetFamily each : families) names.emplace_back(each.rawValue());
   refuse("--family " + tonelake::quoted(*options.family) + " is not one of " +
          tonelake::join(names, ", "));
