@@ -2,9 +2,11 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <vector>
 
 #include <fcntl.h>
@@ -30,7 +32,7 @@ constexpr std::array soundfonts{
 };
 
 // How loud, from 0 to 10. Loud strokes of all three players stay below the loudest a WAV file has.
-constexpr const char* gain = "0.5";
+constexpr const char* gain = "0.6";
 
 std::string findProgram() {
   const char* path = std::getenv("PATH");
@@ -95,6 +97,45 @@ std::string run(const Synthesizer& synthesizer, std::vector<std::string> argumen
   return synthesizer.program + " failed: " + lastLine(said);
 }
 
+// Reads a number of four bytes, the lowest first, at a place in a file.
+std::uint32_t numberAt(std::fstream& file, std::streamoff place) {
+  std::array<unsigned char, 4> bytes{};
+  file.seekg(place);
+  file.read(reinterpret_cast<char*>(bytes.data()), bytes.size());
+  return bytes[0] | bytes[1] << 8U | bytes[2] << 16U | static_cast<std::uint32_t>(bytes[3]) << 24U;
+}
+
+void putNumberAt(std::fstream& file, std::streamoff place, std::uint32_t number) {
+  std::array<char, 4> bytes{};
+  for (char& byte : bytes) {
+    byte = static_cast<char>(number & 0xFFU);
+    number >>= 8U;
+  }
+  file.seekp(place);
+  file.write(bytes.data(), bytes.size());
+}
+
+// The synthesizer waits for its last cymbal to fade long after nobody hears it: what comes after
+// so many seconds is cut off. Whether the file holds sound at all. It begins with "RIFF", its
+// length, "WAVE" and the format; then come "data", the length of the samples and these.
+bool cutWav(const std::string& path, int seconds) {
+  constexpr std::uint32_t bytesPerSecond = 44100 * 2 * 2;
+  constexpr std::streamoff riffLength = 4;
+  constexpr std::streamoff dataLength = 40;
+  constexpr std::streamoff samples = 44;
+  std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
+  const std::uint32_t length = numberAt(file, dataLength);
+  const std::uint32_t wanted = static_cast<std::uint32_t>(seconds) * bytesPerSecond;
+  if (!file || length == 0) return false;
+  if (length <= wanted) return true;
+  putNumberAt(file, dataLength, wanted);
+  putNumberAt(file, riffLength, wanted + static_cast<std::uint32_t>(samples - riffLength - 4));
+  file.close();
+  std::error_code error;
+  std::filesystem::resize_file(path, static_cast<std::uintmax_t>(samples) + wanted, error);
+  return !error;
+}
+
 }  // namespace
 
 std::optional<Synthesizer> findSynthesizer(const std::optional<std::string>& soundfont,
@@ -119,12 +160,13 @@ std::string playMidi(const Synthesizer& synthesizer, const std::string& midi) {
 }
 
 std::string renderMidi(const Synthesizer& synthesizer, const std::string& midi,
-                       const std::string& path) {
+                       const std::string& path, int seconds) {
   // Absolute, so that no name is taken for an option.
-  return run(synthesizer,
-             {"-n", "-i", "-q", "-g", gain, "-r", "44100", "-T", "wav", "-O", "s16", "-F",
-              std::filesystem::absolute(path).string()},
-             midi);
+  const std::string problem = run(synthesizer,
+                                  {"-n", "-i", "-q", "-g", gain, "-r", "44100", "-T", "wav", "-O",
+                                   "s16", "-F", std::filesystem::absolute(path).string()},
+                                  midi);
+  return problem.empty() && !cutWav(path, seconds) ? "no sound was written to " + path : problem;
 }
 
 }  // namespace desktop

@@ -21,9 +21,9 @@ std::optional<Synthesizer> findSynthesizer(const std::optional<std::string>& sou
 /// wrong, or "".
 std::string playMidi(const Synthesizer& synthesizer, const std::string& midi);
 
-/// Writes the sound of a MIDI file to a WAV file, 16 bits, stereo, 44100 Hz. What went wrong, or
-/// "".
+/// Writes the sound of a MIDI file to a WAV file, 16 bits, stereo, 44100 Hz, `seconds` long at most.
+/// What went wrong, or "".
 std::string renderMidi(const Synthesizer& synthesizer, const std::string& midi,
-                       const std::string& path);
+                       const std::string& path, int seconds);
 
 }  // namespace desktop
