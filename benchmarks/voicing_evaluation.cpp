@@ -8,9 +8,9 @@
 //
 // A file rarely holds every shape that is published: a barre that it has for A♭ major and not for
 // A major is no less known there. So the order is judged three times: by the file alone; with its
-// shapes without open strings counted wherever on the neck they stand for the same chord type; and
-// with the shapes of TAUGHT besides. The last figure still misses every other open shape that the
-// file lacks.
+// shapes without open strings counted wherever on the neck, the nut included, they stand for the
+// same chord type; and with the shapes of TAUGHT besides. The last figure still misses every other
+// open shape that the file lacks.
 
 #include <algorithm>
 #include <fstream>
@@ -38,6 +38,7 @@ using Voicings::Voicing;
 using Voicings::VoicingOptions;
 
 constexpr int octave = 12;
+constexpr int highestFret = 24;
 constexpr std::array<int, Tuning::stringCount> standardPitches{4, 9, 2, 7, 11, 4};
 
 int pitchOf(const Frets& frets, std::size_t string) {
@@ -108,15 +109,19 @@ class Coverage {
   std::vector<std::string> missed_;
 };
 
-// A shape counted from its lowest pressed fret; nothing when it has open strings.
-std::optional<Frets> movable(Frets frets) {
-  int lowest = 0;
+bool hasOpenString(const Frets& frets) {
+  return std::find(frets.begin(), frets.end(), openString) != frets.end();
+}
+
+// A shape counted from its lowest sounding fret: the nut where a string is open, for open E major
+// is the barre of F major moved down to it.
+Frets moved(Frets frets) {
+  int lowest = highestFret;
   for (const int fret : frets) {
-    if (fret == openString) return std::nullopt;
-    if (fret > 0) lowest = lowest == 0 ? fret : std::min(lowest, fret);
+    if (fret != mutedString) lowest = std::min(lowest, fret);
   }
   for (auto& fret : frets) {
-    if (fret > 0) fret = static_cast<std::int8_t>(fret - lowest);
+    if (fret != mutedString) fret = static_cast<std::int8_t>(fret - lowest);
   }
   return frets;
 }
@@ -126,8 +131,8 @@ class Order {
  public:
   void addPublished(const Chord& chord, const Frets& frets) {
     shapesOf(chord).published.insert(frets);
-    if (const auto shape = movable(frets)) {
-      movableShapes_[{chord.chordType, chord.variant}].insert(*shape);
+    if (!hasOpenString(frets)) {
+      movableShapes_[{chord.chordType, chord.variant}].insert(moved(frets));
     }
   }
 
@@ -196,9 +201,8 @@ class Order {
   }
 
   bool isMovable(const KnownChord& known, const Frets& frets) const {
-    const auto shape = movable(frets);
     const auto shapes = movableShapes_.find({known.chord.chordType, known.chord.variant});
-    return shape && shapes != movableShapes_.end() && shapes->second.contains(*shape);
+    return shapes != movableShapes_.end() && shapes->second.contains(moved(frets));
   }
 
   std::map<std::tuple<int, std::string, WholeNumber>, KnownChord> chords_;  // by pitch class

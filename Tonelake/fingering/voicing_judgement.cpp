@@ -1,15 +1,16 @@
 // What a shape costs, worked through for open C major, muted, 3, 2, 0, 1, 0:
 //
-//   three fingers                     9
-//   a span of two frets              40
-//   the third fret is the highest     9
-//   one muted string below the bass   3
-//   open strings                     25
-//                                    86
+//   three fingers                             9
+//   a span of two frets                      36
+//   the third fret is the highest             9
+//   one muted string below the bass           3
+//   neither fifth nor octave above the bass  20
+//   open strings in first position            2
+//                                            79
 //
-// and for its nearest rival, the barre muted, 3, 5, 5, 5, 3: four fingers 12, a barre 18, a span
-// of two frets 40, the middle finger a fret too far from the index finger 30, the fifth fret 15, a
-// muted string 3, less 20 for the fifth above the bass, which makes 98.
+// and for its nearest rival, the barre muted, 3, 5, 5, 5, 3: four fingers 12, a barre 21, a span
+// of two frets 36, the middle finger a fret too far from the index finger 30, the fifth fret 15 and
+// a muted string 3, which makes 117.
 
 #include "Tonelake/fingering/voicing_judgement.h"
 
@@ -27,16 +28,17 @@ namespace {
 // shapes that chord books print and to those that beginners are shown, and rounded.
 // clang-format off
 constexpr int finger        =   3;  // each finger in use
-constexpr int indexBarre    =  18;  // the index finger across several strings
+constexpr int indexBarre    =  21;  // the index finger across several strings
 constexpr int upperBarre    =  25;  // each further string under another finger
-constexpr int span          =  20;  // each fret from the lowest to the highest pressed one
+constexpr int span          =  18;  // each fret from the lowest to the highest pressed one
 constexpr int wideReach     =  30;  // each fret that two fingers are further apart than usual
 constexpr int height        =   3;  // each fret up the neck, of the highest pressed one
 constexpr int innerMute     =  70;  // each muted string between sounding ones
-constexpr int upperMute     =  30;  // each muted string above the highest sounding one
+constexpr int upperMute     =  45;  // each muted string above the highest sounding one
 constexpr int thinSound     =  60;  // too few strings sound
-constexpr int supportedBass = -20;  // the next string sounds the fifth or octave of the bass
-constexpr int openAtAll     =  25;  // an open string: no such shape can be moved to another root
+constexpr int loneBass      =  20;  // the next string sounds neither fifth nor octave of the bass
+constexpr int firstPosition =   2;  // open strings in a shape that a first year learns
+constexpr int openElsewhere =  45;  // open strings in any other: it cannot even be moved
 constexpr int openUpTheNeck =  40;  // each open string above the bass, for each fret that the hand
                                     // is above the second: it sounds far from the others
 // clang-format on
@@ -131,7 +133,16 @@ int costOfSound(const Shape& shape, const Frets& frets, const Voicing& voicing,
   const bool isThin = voicing.soundingStrings < (query.isPowerChord ? fullPowerChord : fullChord);
   return innerMute * voicing.innerMutes + upperMute * upperMutes +
          lowerMutes[lowestOf(shape.sounding)] + (isThin ? thinSound : 0) +
-         (hasSupportedBass(shape, frets, query) ? supportedBass : 0);
+         (hasSupportedBass(shape, frets, query) ? 0 : loneBass);
+}
+
+// In first position, within three frets from the nut, with four strings or more and none muted
+// among them.
+bool isInFirstPosition(const Voicing& voicing) {
+  constexpr int highestFret = 3;
+  constexpr int fewestStrings = 4;
+  return voicing.lowestFret + voicing.span <= highestFret && voicing.innerMutes == 0 &&
+         voicing.soundingStrings >= fewestStrings;
 }
 
 int costOfOpenStrings(const Shape& shape, const Voicing& voicing) {
@@ -139,7 +150,8 @@ int costOfOpenStrings(const Shape& shape, const Voicing& voicing) {
   if (shape.open == 0) return 0;
   const StringSet aboveBass = shape.open & withoutLowest(shape.sounding);
   const int fretsUp = std::max(0, voicing.lowestFret - highestHandAtNut);
-  return openAtAll + openUpTheNeck * fretsUp * std::popcount(aboveBass);
+  const int place = isInFirstPosition(voicing) ? firstPosition : openElsewhere;
+  return place + openUpTheNeck * fretsUp * std::popcount(aboveBass);
 }
 
 }  // namespace

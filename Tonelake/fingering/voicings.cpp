@@ -33,7 +33,7 @@ std::vector<Voicing> bestFirst(const std::vector<Voicing>& voicings, WholeNumber
 // Without the voicings that cost much more than the first: nobody plays an awkward shape to spare
 // a finger. The voicings are in order.
 std::vector<Voicing> reasonable(std::vector<Voicing> voicings) {
-  constexpr int mostAboveBest = 45;
+  constexpr int mostAboveBest = 60;
   const auto end = std::find_if(voicings.begin(), voicings.end(), [&](const Voicing& voicing) {
     return voicing.cost > voicings.front().cost + mostAboveBest;
   });

@@ -240,7 +240,7 @@ TEST(Rpc, GivesFingeringsDaysAndDiagrams) {
       {"assignFingers", R"("frets":[0,0,0,9223372036854775807,0,-9223372036854775808])", "/size",
        "6"},
       {"findVoicings", overE + R"(,"limit":1,"maxFret":3)", "",
-       R"([{"position":[-1,-1,2,0,1,0],"fingering":[0,0,2,0,1,0],"cost":73}])"},
+       R"([{"position":[-1,-1,2,0,1,0],"fingering":[0,0,2,0,1,0],"cost":68}])"},
       {"findVoicings", overE + R"(,"maxFret":9223372036854775807,"limit":0)", "", "[]"},
       {"findVoicings", major + R"(,"maxFret":0)", "", "[]"},
       {"findVoicings", overE + R"(,"maxFret":3,"maxInnerMutes":0)", "/size", "7"},

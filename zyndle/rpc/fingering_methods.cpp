@@ -81,7 +81,9 @@ json::Value findVoicings(const json::Node& parameters, MethodContext&) {
   options.limit = limit ? limit->wholeNumber(allPositions) : allPositions;
   options.highestFret = smallNumberOr(parameters, "maxFret", options.highestFret);
   options.innerMutes = smallNumberOr(parameters, "maxInnerMutes", options.innerMutes);
-  options.openStringsAboveFifthFret = flagOr(parameters, "openStringsAboveFifthFret", false);
+  // Programs get every shape unless they ask for fewer; those with open strings far from the hand
+  // come last.
+  options.openStringsAboveFifthFret = flagOr(parameters, "openStringsAboveFifthFret", true);
   return encodeList(tonelake::Voicings::findVoicings(chordParameter(parameters),
                                                      tuningParameter(parameters), options),
                     [](const tonelake::Voicings::Voicing& voicing) {
