@@ -23,6 +23,7 @@ constexpr const char* examples = R"(Examples:
   zyndle chord G --tuning DADGAD   its shapes in another tuning
   zyndle voicings C/E              every way to play it, easiest first
   zyndle connect "C G/B Am F"      shapes that are close to each other
+  zyndle jam I-V-vi-IV -o song.mid chords as music
   zyndle widget chord > today.svg  a widget as a picture
   zyndle settings list             what you have set
   zyndle COMMAND --help            more about a command)";

@@ -35,8 +35,8 @@ constexpr const char* description = "Play a row of chords as music";
 
 constexpr const char* introduction =
     R"(A guitar plays the chords, a bar each, in one of the ways that zyndle patterns
-lists, and bass and drums play what goes with it. The shapes are those of zyndle
-connect.
+lists, and bass and drums play what goes with it. The shapes are full ones that
+lie close to each other.
 
 The name of the FILE tells its kind: .mid for notes, .wav for sound; - writes
 the notes to standard output. Sound and --play need fluidsynth and a soundfont:
@@ -186,12 +186,13 @@ desktop::Synthesizer readSynthesizer(const JamOptions& options) {
 
 void makeSound(const JamOptions& options, const desktop::Synthesizer& synthesizer, FileKind kind,
                const std::string& midi, WholeNumber seconds) {
-  constexpr WholeNumber secondsToDieAway = 3;
+  constexpr WholeNumber secondsToDieAway = 5;
   std::string problem;
   if (kind == FileKind::wav) {
-    writeFile(*options.file, "");  // tells in our words when it cannot be written
-    problem = desktop::renderMidi(synthesizer, midi, *options.file,
-                                  static_cast<int>(seconds + secondsToDieAway));
+    std::string wav;
+    problem =
+        desktop::renderMidi(synthesizer, midi, static_cast<int>(seconds + secondsToDieAway), wav);
+    if (problem.empty()) writeFile(*options.file, wav);
   }
   if (problem.empty() && options.play) problem = desktop::playMidi(synthesizer, midi);
   if (!problem.empty()) fail(problem);
