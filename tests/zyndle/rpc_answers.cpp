@@ -1,6 +1,7 @@
 #include "tests/zyndle/rpc_answers.h"
 
 #include <cstdio>
+#include <fstream>
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -84,6 +85,26 @@ void expectRefusals(const std::vector<RefusalCase>& rows) {
         answers[i].at("error").at("message").get<std::string>().starts_with(rows[i].message))
         << rows[i].method << " " << answers[i];
   }
+}
+
+void expectExamples(const std::string& file) {
+  std::vector<MethodCase> results;
+  std::vector<RefusalCase> refusals;
+  std::ifstream rows(file);
+  for (std::string line; std::getline(rows, line);) {
+    const json::Value row = json::parse(line);
+    const std::string parameters = json::write(row.at("params"));
+    const std::string inside = parameters.substr(1, parameters.size() - 2);
+    if (row.contains("error")) {
+      refusals.push_back({row.at("method"), inside, row.at("error")});
+    } else {
+      results.push_back(
+          {row.at("method"), inside, row.value("at", ""), json::write(row.at("result"))});
+    }
+  }
+  EXPECT_GT(results.size() + refusals.size(), 0U) << file;
+  expectResults(results);
+  expectRefusals(refusals);
 }
 
 }  // namespace zyndle

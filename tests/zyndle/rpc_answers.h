@@ -34,4 +34,8 @@ struct RefusalCase {
 };
 void expectRefusals(const std::vector<RefusalCase>& rows);
 
+/// A file of such rows, one JSON object a line: "method" and "params", then either "result", with
+/// "at" for a part of it, or what the "error" begins with.
+void expectExamples(const std::string& file);
+
 }  // namespace zyndle

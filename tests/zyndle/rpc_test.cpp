@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "Tonelake/foundation/json.h"
+#include "Tonelake/platform/platform.h"
 #include "tests/zyndle/rpc_answers.h"
 
 namespace zyndle {
@@ -169,135 +170,24 @@ TEST(Rpc, AnswersALineBeforeTheNextOneComes) {
   EXPECT_EQ(runRpc(-1, -1, testContext()), 1) << "nothing can be read";
 }
 
-const std::string major = R"("chord":{"rootNote":"C","chordType":"major","variant":0})";
-const std::string overE = R"("chord":{"rootNote":"C","chordType":"major","variant":1})";
-const std::string noSuchBass = R"("chord":{"rootNote":"C","chordType":"major","variant":3})";
-const std::string unknown = R"("chord":{"rootNote":"C","chordType":"Major","variant":9})";
-const std::string openC = R"({"position":[-1,3,2,0,1,0],"fingering":[0,3,2,0,1,0]})";
-
-TEST(Rpc, GivesNotesAndChords) {
-  expectResults({
-      {"Note", R"("rawValue":"E♯")", "",
-       R"({"case":"Es","rawValue":"E♯","semitoneOffset":1,"enharmonics":["F","D♯𝄪","G♭♭"]})"},
-      {"Note", R"("rawValue":"Db")", "", "null"},
-      {"allNotes", "", "/size", "45"},
-      {"allNotes", "", "/24/semitoneOffset", "13"},
-      {"getNote", R"("from":127)", "", R"({"note":"G","octave":9})"},
-      {"getNote", R"("from":1099511627776)", "", "null"},
-      {"getNote", R"("from":-1)", "", "null"},
-      {"getNoteWithDistance", R"("distance":3,"degree":3,"note":"E♭")", "", R"("G♭")"},
-      {"getNoteWithDistance", R"("distance":99,"degree":-9,"note":"H")", "", R"("")"},
-      {"getIntervalFromAlteredScaleDegree", R"("token":"♭♭7")", "", R"("Diminished Seventh")"},
-      {"chordTypes", "", "/6", R"("5")"},
-      {"allRootNotes", "", "/16", R"("B♭")"},
-      {"getChordData", R"("forChordType":"major")", "",
-       R"({"title":"major","shortTitle":"maj","includesSpace":true,"otherNames":["","M"],)"
-       R"("formula":"1-3-5","notes":[0,4,7]})"},
-      {"getChordData", R"("forChordType":"Major")", "", "null"},
-      {"priorityList", "", "/0",
-       "{" + major + R"(,"fingerings":[[-1,3,2,0,1,0],[-1,3,2,0,1,3],[-1,3,5,5,5,3],)" +
-           "[8,10,10,9,8,8]]}"},
-      {"lookUpChord", R"("name":"F#m7b5/E")", "",
-       R"({"rootNote":"F♯","chordType":"minor 7th flat 5","variant":3})"},
-      {"lookUpChord", R"("name":"H")", "", "null"},
-      {"getNotesOfChord", overE, "", R"(["C","E","G"])"},
-      {"getNotesOfChord", unknown, "", "[]"},
-      {"getTitleForChord", overE, "", R"("C major/E")"},
-      {"getTitleForChord", overE + R"(,"maxChars":4)", "", R"("Cmaj/E")"},
-      {"getTitleForChord", overE + R"(,"maxChars":null)", "", R"("C major/E")"},
-      {"getTitleForChord", unknown, "", R"("")"},
-      {"getShortestTitleForChord", overE, "", R"("C/E")"},
-      {"getShortestTitleForChord", unknown, "", R"("")"},
-      {"getAlternateTitlesForChord", noSuchBass, "", R"(["Cmajor","Cmaj","C major","CM"])"},
-      {"getIntervalsOfChord", noSuchBass, "", R"(["Unison","Major Third","Perfect Fifth"])"},
-      {"getIntervalsOfChordForToday", overE, "", R"(["Major Third","Perfect Fifth","Root"])"},
-      {"getNoteNumbersForChord", major, "", "[36,40,43,48,52]"},
-      {"getChordPianoNotes", R"("root":"D♯𝄪","formula":[0,7,4])", "", "[53,60,69]"},
-      {"getChordPianoNotes", R"("root":"E","formula":[2147483648,-2147483648])", "",
-       "[2147483688,2147483696]"},
-  });
+// The files show callers in any language what to send and what comes back.
+TEST(Rpc, AnswersAsInTheExamples) {
+  for (const char* file : {"chords", "fingerings_and_diagrams", "widgets", "wrong_parameters"}) {
+    expectExamples(std::string(RPC_EXAMPLES) + "/" + file + ".jsonl");
+  }
 }
 
-TEST(Rpc, GivesFingeringsDaysAndDiagrams) {
-  const std::string march =
-      R"("selectedCategory":"jazz","now":"2025-03-10T09:00:00Z","monthOffset":)";
-  const std::string openPosition = major + R"(,"position":[-1,3,2,0,1,0])";
-  const std::string standard = R"(,"tuning":["E","A","D","G","B","E"])";
+TEST(Rpc, ReadsThisMachinesSettingsUnlessGivenSome) {
+  const auto& store = tonelake::processPlatform().sharedSettings;
+  const std::string power5 = R"({"rootNote":"B","chordType":"5","variant":0})";
+  store->setData("recentlyViewedChords", "[" + power5 + "]");
+  const std::string recent = R"("kind":"ZyndleExtraLargeRecentChords")";
   expectResults({
-      {"getChordPositions", major + R"(,"limit":1)", "", "[" + openC + "]"},
-      {"getChordPositions", major + R"(,"limit":0,"tuning":null)", "", "[]"},
-      {"getChordPositions", major + R"(,"tuning":["E","A","D","G","B","H"])", "", "[]"},
-      {"getChordPositions", unknown, "", "[]"},
-      {"resolveChordPosition", major, "", openC},
-      {"resolveChordPosition", major + R"(,"selectedPosition":[8,10,10,9,8,8])", "/position",
-       "[8,10,10,9,8,8]"},
-      {"resolveChordPosition",
-       major + R"(,"presetPosition":[9,10,10,9,8,8],"usesChordPositionsCache":true)", "/position",
-       "[8,10,10,9,8,8]"},
-      {"resolveChordPosition", unknown, "", "null"},
-      {"generateChordShapes", R"("rootNote":"C","intervals":[0,4,7],"limit":1)" + standard, "",
-       "[" + openC + "]"},
-      {"generateChordShapes", R"("rootNote":"H","intervals":[0],"limit":-1)" + standard, "", "[]"},
-      {"assignFingers", R"("frets":[-1,3,2,0,1,0])", "", "[0,3,2,0,1,0]"},
-      {"assignFingers", R"("frets":[0,0,0,9223372036854775807,0,-9223372036854775808])", "/size",
-       "6"},
-      {"findVoicings", overE + R"(,"limit":1,"maxFret":3)", "",
-       R"([{"position":[-1,-1,2,0,1,0],"fingering":[0,0,2,0,1,0],"cost":68}])"},
-      {"findVoicings", overE + R"(,"maxFret":9223372036854775807,"limit":0)", "", "[]"},
-      {"findVoicings", major + R"(,"maxFret":0)", "", "[]"},
-      {"findVoicings", overE + R"(,"maxFret":3,"maxInnerMutes":0)", "/size", "7"},
-      {"findVoicings", overE + R"(,"maxFret":3,"maxInnerMutes":9)", "/size", "28"},
-      {"findVoicings", major + R"(,"capo":3,"limit":1)", "/0/position", "[-1,0,2,2,2,0]"},
-      {"findVoicings", noSuchBass, "", "[]"},
-      {"findVoicings", unknown, "", "[]"},
-      {"connectVoicings", R"("chords":[)" + major.substr(8) + "," + overE.substr(8) + "]", "/0",
-       openC},
-      {"connectVoicings", R"("chords":[])", "", "[]"},
-      {"connectVoicings", R"("chords":[)" + unknown.substr(8) + "]", "", "[]"},
-      {"chordFilters", R"("label":"dim")", "", R"(["diminished","diminished 7th"])"},
-      {"chordFilters", R"("label":"Dim")", "", "null"},
-      {"chordFilters", R"("label":null)", "/9", R"(["9","minor add 9","minor 6 add 9"])"},
-      {"getAllChords", "", "/size", "1098"},
-      {"scheduleChordNotificationsForMonth", march + "0", "/size", "21"},
-      {"scheduleChordNotificationsForMonth", march + "1", "/29/identifier",
-       R"("chordOfTheDay_jazz_2025_4_30")"},
-      {"scheduleChordNotificationsForMonth", march + "1", "/0/dateComponents/hour", "8"},
-      {"scheduleChordNotificationsForMonth", march + "-1", "", "[]"},
-      {"findChordsExact", R"("notes":"E, G, C")", "", "[" + overE.substr(8) + "]"},
-      {"findChordsMatching", R"("notes":"c,e,g,g")", "/0", major.substr(8)},
-      {"getChordProgressionsDataForChordType", R"("chordType":"minor")", "/7/styles",
-       R"(["Melancholic","Folk"])"},
-      {"getChordProgressionsDataForChordType", R"("chordType":"Minor")", "", "[]"},
-      {"getChordsForChordProgression", major + R"(,"progression":"abc-I-\u0000-♭♭♭I")", "",
-       "[" + major.substr(8) + "]"},
-      {"getRelatedChordsForKeySignature", R"("keySignature":)" + major.substr(8), "/4",
-       R"({"rootNote":"D","chordType":"minor","variant":0})"},
-      {"getDescription",
-       major + R"(,"for":{"progression":"","description":"--♭VII--!","styles":[]})", "",
-       R"("B♭ major!")"},
-      {"getChordTitles",
-       major + R"(,"for":{"progression":"ii-V","description":"","styles":["R&B"]})", "",
-       R"(["D minor","G major"])"},
-      {"ChordView", openPosition + R"(,"fingering":[])", "",
-       R"({"scale":1,"baseFret":1,"displayedFrets":[-1,3,2,0,1,0],"dots":[)"
-       R"({"stringIndex":1,"x":40.5,"y":82,"finger":-1},)"
-       R"({"stringIndex":2,"x":54.5,"y":59,"finger":-1},)"
-       R"({"stringIndex":4,"x":82.5,"y":36,"finger":-1}],"barres":[],"noteLabels":[]})"},
-      {"ChordView", openPosition + R"(,"fingering":[0,3,2,0,1,0],"width":60)", "/scale", "0.5"},
-      {"ChordView", openPosition + R"(,"fingering":[0,3,2,0,1,0],"isLeftHanded":true)", "/dots/2",
-       R"({"stringIndex":4,"x":82.5,"y":82,"finger":3})"},
-      {"ChordView", major + R"(,"position":[8,10,10,9,8,8],"fingering":[1,3,4,2,1,1])", "/baseFret",
-       "8"},
-      {"ChordView", major + R"(,"position":[8,10,10,9,8,8],"fingering":[1,3,4,2,1,1])", "/barres/1",
-       R"({"startStringIndex":4,"endStringIndex":5,"fret":1,"x":91,"y":41.2,"width":14})"},
-      {"ChordView", openPosition + R"(,"fingering":[],"displayNotes":true)", "/noteLabels/1",
-       R"({"stringIndex":2,"note":"E","x":61,"y":135})"},
-      {"fingeringInstructions", R"("position":[-1,0,2,2,2,0],"fingering":[0,0,1,2,3,0])", "/3",
-       R"("Let ring the first and fifth strings in open positions")"},
-      {"fingeringInstructions", R"("position":[0,0,0,0,0,0],"fingering":[])", "", "[]"},
-      {"stringShape", R"("width":10,"height":100,"displacement":4,"touchY":0.25)", "",
-       R"({"start":[5,0],"control1":[9,12.5],"control2":[9,62.5],"end":[5,100]})"},
+      {"getTimeline", recent, "/entries/0/chords/0", power5},
+      {"getTimeline", recent + R"(,"settings":null)", "/entries/0/chords/0", power5},
+      {"getTimeline", recent + R"(,"settings":{})", "/entries/0/chords/0/rootNote", "\"C\""},
   });
+  store->remove("recentlyViewedChords");
 }
 
 // The machine's own calendar is UTC here; midnight comes nine hours earlier in Tokyo.
@@ -316,69 +206,6 @@ TEST(Rpc, AsksTheCalendarOfTheZone) {
   EXPECT_EQ(first, chordAt("2025-01-01T23:59:59+09:00", tokyo));
   EXPECT_NE(first, chordAt("2024-12-31T14:59:59Z", tokyo));
   EXPECT_NE(first, chordAt("2024-12-31T15:00:00Z", R"(,"timeZone":null)"));
-}
-
-TEST(Rpc, NamesTheParameterThatIsWrong) {
-  const std::string standard = R"(,"tuning":["E","A","D","G","B","E"])";
-  const std::string five = R"(,"tuning":["E","A","D","G","B"])";
-  const std::string badRoot = R"("chord":{"rootNote":"Db","chordType":"major","variant":0})";
-  const std::string noVariant = R"("chord":{"rootNote":"C","chordType":"major"})";
-  const std::string allOpen = major + R"(,"position":[0,0,0,0,0,0])";
-  expectRefusals({
-      {"getChordTitles",
-       R"("chord":{"rootNote":"C","chordType":"major","variant":0},)"
-       R"("for":{"progression":"I","description":"","styles":["rock"]})",
-       "for.styles[0]: expected a style of music"},
-      {"findChordsExact", R"("notes":["C"])", "notes: expected a text"},
-      {"Note", R"("rawValue":7)", "rawValue: expected a text"},
-      {"Note", R"("rawValue":null)", "rawValue: expected a text"},
-      {"getNote", R"("from":0)", "from: a MIDI"},
-      {"getNote", R"("from":11)", "from: a MIDI"},
-      {"getNoteWithDistance", R"("distance":36,"degree":1,"note":"C")", "distance: "},
-      {"getNoteWithDistance", R"("distance":-1,"degree":1,"note":"C")", "distance: "},
-      {"getNoteWithDistance", R"("distance":0,"degree":0,"note":"C")", "degree: "},
-      {"getTitleForChord", noSuchBass, "chord.variant: "},
-      {"getTitleForChord", badRoot, "chord.rootNote: \"Db\" is not a note"},
-      {"getTitleForChord", noVariant, "chord.variant: missing"},
-      {"getTitleForChord", "\"chord\":\"C\"", "chord: expected an object"},
-      {"getTitleForChord", major + R"(,"maxChars":"4")", "maxChars: expected a whole number"},
-      {"getShortestTitleForChord", noSuchBass, "chord.variant: "},
-      {"getNoteNumbersForChord", unknown, "chord: "},
-      {"getChordPianoNotes", R"("root":"C","formula":[0,2147483649])", "formula[1]: "},
-      {"getChordPositions", major + R"(,"limit":-2)", "limit: "},
-      {"getChordPositions", major + five, "tuning: expected six"},
-      {"getChordPositions", unknown + five, "tuning: expected six"},
-      {"getChordPositions", major + R"(,"tuning":["E","A","D","G","B",5])", "tuning[5]: "},
-      {"resolveChordPosition", major + R"(,"selectedPosition":[1])", "selectedPosition: expected"},
-      {"resolveChordPosition", major + R"(,"presetPosition":[0,0,0,0,0,0,0])", "presetPosition: "},
-      {"generateChordShapes", R"("rootNote":"C","intervals":[],"limit":1)" + standard,
-       "intervals: "},
-      {"generateChordShapes", R"("rootNote":"C","intervals":[0,-1],"limit":1)" + standard,
-       "intervals[1]: "},
-      {"generateChordShapes", R"("rootNote":"C","intervals":[0],"limit":1)", "tuning: missing"},
-      {"assignFingers", R"("frets":[0,0,0,0,1])", "frets: expected six"},
-      {"findVoicings", major + R"(,"limit":-2)", "limit: "},
-      {"findVoicings", major + R"(,"maxFret":-1)", "maxFret: "},
-      {"findVoicings", major + R"(,"maxInnerMutes":true)", "maxInnerMutes: "},
-      {"findVoicings", major + R"(,"capo":13)", "capo: expected a whole number from 0 to 12"},
-      {"findVoicings", major + five, "tuning: expected six"},
-      {"connectVoicings", major, "chords: missing"},
-      {"connectVoicings", R"("chords":[{"rootNote":"C"}])", "chords[0].chordType: missing"},
-      {"chordOfTheDay", R"("for":"2025-02-29T00:00:00Z","category":"jazz")", "for: "},
-      {"chordOfTheDay", R"("for":"2025-02-28T00:00:00Z","category":"Jazz")", "category: \"Jazz\""},
-      {"scheduleChordNotificationsForMonth", R"("selectedCategory":"jazz")",
-       "monthOffset: missing"},
-      {"chordOfTheDay",
-       R"("for":"2025-02-28T00:00:00Z","category":"jazz","timeZone":"Mars/Olympus")",
-       "timeZone: \"Mars/Olympus\""},
-      {"ChordView", major + R"(,"position":[0,0,0],"fingering":[])", "position: expected six"},
-      {"ChordView", allOpen + R"(,"fingering":[0])", "fingering: expected six"},
-      {"ChordView", allOpen + R"(,"fingering":[],"width":"1")", "width: expected a number"},
-      {"ChordView", allOpen + R"(,"fingering":[],"isLeftHanded":1)", "isLeftHanded: expected true"},
-      {"fingeringInstructions", R"("position":[0],"fingering":[0])", "position: expected six"},
-      {"stringShape", R"("width":1e300,"height":1,"displacement":4,"touchY":1)", "width: "},
-      {"stringShape", R"("width":1,"height":1,"displacement":4)", "touchY: missing"},
-  });
 }
 
 }  // namespace
