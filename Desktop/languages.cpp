@@ -88,6 +88,14 @@ std::string languageOfEnvironment() {
   return english;
 }
 
+std::optional<std::string> missingCatalogue(const std::string& language) {
+  if (language == english) return std::nullopt;
+  const auto file = catalogueFolder() / language / "LC_MESSAGES" / (std::string(domain) + ".mo");
+  std::error_code problem;
+  if (std::filesystem::exists(file, problem)) return std::nullopt;
+  return file.string();
+}
+
 std::shared_ptr<const tonelake::StringTable> makeStringTable(const std::string& language) {
   speak(language);
   if (language == english) return tonelake::makeEnglishStringTable();

@@ -23,6 +23,9 @@ std::optional<std::string> languageOfLocale(std::string_view locale);
 /// else English.
 std::string languageOfEnvironment();
 
+/// The file with the texts of a known language, if it is not where it should be.
+std::optional<std::string> missingCatalogue(const std::string& language);
+
 /// The texts in a known language. English opens no file. The others have gettext look in
 /// ../share/locale beside the program's own folder, which needs no locale on the machine but
 /// C.UTF-8; what has no translation stays English. Call it on the main thread, before others

@@ -9,8 +9,7 @@ root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
 # shellcheck disable=SC2034  # used by the scripts that source this file
 {
   zyndle_packages=(
-    g++ cmake ninja-build
-    gettext
+    g++ cmake gettext ninja-build
     libcairo2-dev libcli11-dev libfmt-dev libfontconfig-dev libfreetype-dev
     libhowardhinnant-date-dev libical-dev libpugixml-dev libre2-dev libsdbus-c++-dev libsmf-dev
     libsqlite3-dev nlohmann-json3-dev pkg-config tzdata zlib1g-dev)

@@ -135,7 +135,7 @@ std::vector<std::string> namesToList(const ChordSheet& sheet) {
 
 std::string shapesOf(const ShownChord& shown, const DrawingStyle& style) {
   if (shown.positions.empty()) return translated("No shape is known for it in this tuning.") + '\n';
-  const std::string text =
+  std::string text =
       drawInTerminal(shown.sheet.chord, shown.positions, soundingStrings(shown.instrument), style);
   const std::string instructions = listInstructions(shown.positions.front());
   if (instructions.empty()) return text;
@@ -147,9 +147,12 @@ std::string shapesOf(const ShownChord& shown, const DrawingStyle& style) {
 std::string textOf(const ShownChord& shown, const DrawingStyle& style) {
   const ChordSheet& sheet = shown.sheet;
   std::string text = emphasized(sheet.title, style) + '\n';
+  // TRANSLATORS: the label of further names of a chord: "Also  Am7, Amin7".
   text += labelledRow(translated("Also"), namesToList(sheet));
+  // TRANSLATORS: the label of the notes that a chord consists of: "Notes  C, E, G".
   text += labelledRow(translated("Notes"), sheet.notes);
   text += labelledRow(translated("Intervals"), sheet.intervals);
+  // TRANSLATORS: the label of adjectives: "Character  happy, bright, stable, uplifting".
   text += labelledRow(translated("Character"), {shown.words.character.value_or("")});
   text += labelledRow(translated("Genres"), {shown.words.genre.value_or("")});
   text += instrumentRows(shown.instrument) + '\n';

@@ -1,5 +1,6 @@
 // Runs the built program as users of several languages would.
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -48,6 +49,9 @@ TEST_F(Language, IsTheOneThatTheUserChose) {
       {{"LANGUAGE=de"}, {"chord", "C", "--lang=es_MX"}, spanish},
       {{}, {"--lang", "de", "chord", "--help"}, "Optionen:"},
       {{}, {"--lang", "es", "--help"}, "zyndle [OPCIONES] ORDEN"},
+      {{"LANGUAGE=de"}, {"chord", "C", "--ascii"}, "  Toene      C, E, G\n"},
+      {{"LANGUAGE=es"}, {"chord", "F#", "--ascii"}, "sonido claro y armonioso que se siente"},
+      {{"LANGUAGE=es"}, {"chord", "C", "--ascii"}, "Clasica"},
       {{}, {"--lang", "de", "pack", "metal"}, "Riff drohen soll"},
       {{}, {"--lang", "de", "widget", "launcher"}, "Stimmgerät"},
   };
@@ -71,6 +75,18 @@ TEST_F(Language, OfProblemsIsTheSame) {
     EXPECT_THAT(result.errors, HasSubstr(problem));
     EXPECT_EQ(countLines(result.errors), 1U);
   }
+}
+
+TEST_F(Language, WithoutItsTextsIsEnglishOrAProblem) {
+  const std::string lonely = folder_.path("zyndle");
+  std::filesystem::copy_file(ZYNDLE_PROGRAM, lonely);
+  const auto preferred =
+      tonelake::testing::runProgram({{lonely, "packs"}, {"LANGUAGE=de"}, "", ""});
+  EXPECT_THAT(preferred.output, HasSubstr("First Chords"));
+  const auto wanted =
+      tonelake::testing::runProgram({{lonely, "--lang", "de", "packs"}, {}, "", ""});
+  EXPECT_EQ(wanted.status, 1);
+  EXPECT_THAT(wanted.errors, HasSubstr("the texts of de are missing: there is no "));
 }
 
 TEST_F(Language, KeepsToThePage) {

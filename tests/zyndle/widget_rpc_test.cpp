@@ -29,6 +29,9 @@ std::string settings(const std::string& key, const std::string& value) {
 
 TEST(WidgetRpc, GivesCuratedListsAndSamples) {
   expectResults({
+      {"chordTexts", R"("chordType":"minor")", "/genre", R"("Pop, Rock, Blues, Classical")"},
+      {"chordTexts", R"("chordType":"minor")", "/jazzDescription", "null"},
+      {"chordTexts", R"("chordType":"Minor")", "/description", "null"},
       {"curatedChordLists", "", "/size", "13"},
       {"curatedChordLists", "", "/barreChords",
        R"({"title":"Barre Chords Mastery","description":)"
