@@ -108,6 +108,7 @@ WidgetFamily readFamily(const WidgetOptions& options, const WidgetDescription& w
     return *family;
   }
   std::vector<std::string> names;
+  names.reserve(families.size());
   for (const WidgetFamily each : families) names.emplace_back(each.rawValue());
   refuse(translated("{0} {1} is not one of {2}", "--family", tonelake::quoted(*options.family),
                     tonelake::join(names, ", ")));

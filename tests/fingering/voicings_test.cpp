@@ -197,7 +197,7 @@ int movement(const std::vector<Voicing>& row) {
 
 TEST(ConnectVoicings, MovesLessThanTheFirstShapes) {
   for (const char* names :
-       {"C Am F G", "G D Em C", "C G/B Am F", "Am F C G", "D A Bm G", "E A B7 E", "Dm7 G7 Cmaj7",
+       {"C Am F G", "E C#m A B", "C G/B Am F", "Am F C G", "D Bm G A", "A F#m D E", "Dm7 G7 Cmaj7",
         "F Dm Bb C", "Am G F E", "Am7 D7 Gmaj7 Cmaj7 F#m7b5 B7 Em"}) {
     const auto chords = chordsNamed(names);
     std::vector<Voicing> firsts;

@@ -91,7 +91,7 @@ installed='(source "$world/tree/tools/set_up.sh"
 compile_error='echo "note.cpp:3: error"; rmdir "$world/building"; exit 1'
 write_stand_ins
 
-row 'a fresh machine' fresh "$call" 3 "$ran" '*installing with apt-get: g++ cmake lib*' "$all*"
+row 'a fresh machine' fresh "$call" 3 "$ran" '*installing with apt-get: g++ cmake gettext lib*' "$all*"
 row 'only what is missing is installed' 'fresh; '"$installed" "$call" 3 "$ran" '*' "$build"
 row 'nothing to do' built "$call" 3 "$ran" '' ''
 row 'nothing to do while another builds' built \
