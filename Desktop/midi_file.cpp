@@ -47,9 +47,9 @@ struct Sound {
   int volume;
   int pan;
 };
-constexpr Sound guitarSound{general_midi::steelGuitar, 104, 54};
-constexpr Sound bassSound{general_midi::fingeredBass, 100, 66};
-constexpr Sound drumSound{general_midi::standardDrumKit, 92, 64};
+constexpr Sound guitarSound{general_midi::steelGuitar, 96, 54};
+constexpr Sound bassSound{general_midi::fingeredBass, 90, 66};
+constexpr Sound drumSound{general_midi::standardDrumKit, 115, 64};
 
 // A key that goes down or, with velocity 0, up.
 struct Key {
@@ -134,13 +134,13 @@ std::string contentsOf(smf_t* file) {
 
 }  // namespace
 
-std::string midiFile(const Performance& performance, const std::string& title, WholeNumber tail) {
+std::string midiFile(const Performance& performance, const std::string& title) {
   const SmfPointer file(smf_new());
   if (file == nullptr || smf_set_format(file.get(), 1) != 0 ||
       smf_set_ppqn(file.get(), static_cast<int>(tonelake::ticksPerCrotchet)) != 0) {
     failToWrite();
   }
-  const WholeNumber end = performance.length + tail;
+  const WholeNumber end = performance.length;
   addConductor(file.get(), performance, title, end);
   std::vector<Key> guitar;
   for (const NoteEvent& event : performance.guitar) addKeys(guitar, event, event.string);

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -20,7 +21,8 @@ namespace desktop {
 namespace {
 
 constexpr const char* programName = "fluidsynth";
-constexpr const char* advice = "; install them with: apt-get install fluidsynth fluid-soundfont-gm";
+constexpr const char* advice = "; to install: apt-get install fluidsynth fluid-soundfont-gm";
+constexpr const char* noMemory = "there is no memory left";
 
 // Where Debian and others keep soundfonts with all instruments, in order of preference.
 constexpr std::array soundfonts{
@@ -30,7 +32,16 @@ constexpr std::array soundfonts{
 };
 
 // How loud, from 0 to 10. Loud strokes of all three players stay below the loudest a WAV file has.
-constexpr const char* gain = "0.5";
+constexpr const char* gain = "0.6";
+
+// 16 bits, 44100 times a second, left and right.
+constexpr std::size_t bytesPerSecond = 44100 * 2 * 2;
+constexpr std::size_t largestWav = std::size_t{1} << 31U;  // more than three hours
+
+// Places in a WAV file.
+constexpr std::size_t placeOfRiffLength = 4;
+constexpr std::size_t placeOfDataLength = 40;
+constexpr std::size_t placeOfSamples = 44;
 
 std::string findProgram() {
   const char* path = std::getenv("PATH");
@@ -69,7 +80,7 @@ std::string run(const Synthesizer& synthesizer, std::vector<std::string> argumen
   constexpr std::size_t longestLog = 1U << 20U;
   const MemoryFile song("zyndle.mid");
   const MemoryFile log("zyndle.log");
-  if (!song.isOpen() || !log.isOpen() || !song.write(midi)) return "there is no memory left";
+  if (!song.isOpen() || !log.isOpen() || !song.write(midi)) return noMemory;
   arguments.insert(arguments.begin(), synthesizer.program);
   arguments.push_back(synthesizer.soundfont);
   arguments.push_back(song.path());
@@ -95,6 +106,31 @@ std::string run(const Synthesizer& synthesizer, std::vector<std::string> argumen
   return synthesizer.program + " failed: " + lastLine(said);
 }
 
+// Four bytes at a place in a file, the lowest first.
+std::size_t numberAt(const std::string& file, std::size_t place) {
+  std::size_t number = 0;
+  for (std::size_t i = 4; i-- > 0;) {
+    number = number << 8U | static_cast<unsigned char>(file[place + i]);
+  }
+  return number;
+}
+
+void putNumberAt(std::string& file, std::size_t place, std::size_t number) {
+  for (std::size_t i = 0; i < 4; ++i)
+    file[place + i] = static_cast<char>(number >> (8 * i) & 0xFFU);
+}
+
+// The synthesizer waits for its last cymbal to fade long after nobody hears it: what comes after
+// so many seconds is cut off. A WAV file begins with "RIFF", its length, "WAVE" and the format;
+// then come "data", the length of the samples and these.
+void cutWav(std::string& file, std::size_t seconds) {
+  const std::size_t wanted = seconds * bytesPerSecond;
+  if (numberAt(file, placeOfDataLength) <= wanted) return;
+  putNumberAt(file, placeOfRiffLength, placeOfSamples + wanted - placeOfRiffLength - 4);
+  putNumberAt(file, placeOfDataLength, wanted);
+  file.resize(placeOfSamples + wanted);
+}
+
 }  // namespace
 
 std::optional<Synthesizer> findSynthesizer(const std::optional<std::string>& soundfont,
@@ -118,13 +154,19 @@ std::string playMidi(const Synthesizer& synthesizer, const std::string& midi) {
   return run(synthesizer, {"-n", "-i", "-q", "-g", gain}, midi);
 }
 
-std::string renderMidi(const Synthesizer& synthesizer, const std::string& midi,
-                       const std::string& path) {
-  // Absolute, so that no name is taken for an option.
-  return run(synthesizer,
-             {"-n", "-i", "-q", "-g", gain, "-r", "44100", "-T", "wav", "-O", "s16", "-F",
-              std::filesystem::absolute(path).string()},
-             midi);
+std::string renderMidi(const Synthesizer& synthesizer, const std::string& midi, int seconds,
+                       std::string& wav) {
+  const MemoryFile sound("zyndle.wav");
+  if (!sound.isOpen()) return noMemory;
+  const std::string problem = run(
+      synthesizer,
+      {"-n", "-i", "-q", "-g", gain, "-r", "44100", "-T", "wav", "-O", "s16", "-F", sound.path()},
+      midi);
+  if (!problem.empty()) return problem;
+  wav = readFile(sound.path(), largestWav).value_or("");
+  if (wav.size() <= placeOfSamples) return synthesizer.program + " made no sound";
+  cutWav(wav, static_cast<std::size_t>(seconds));
+  return "";
 }
 
 }  // namespace desktop

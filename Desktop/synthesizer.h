@@ -21,9 +21,9 @@ std::optional<Synthesizer> findSynthesizer(const std::optional<std::string>& sou
 /// wrong, or "".
 std::string playMidi(const Synthesizer& synthesizer, const std::string& midi);
 
-/// Writes the sound of a MIDI file to a WAV file, 16 bits, stereo, 44100 Hz. What went wrong, or
-/// "".
-std::string renderMidi(const Synthesizer& synthesizer, const std::string& midi,
-                       const std::string& path);
+/// Makes `wav` the bytes of a WAV file with the sound of a MIDI file: 16 bits, stereo, 44100 Hz,
+/// `seconds` long at most. What went wrong, or "".
+std::string renderMidi(const Synthesizer& synthesizer, const std::string& midi, int seconds,
+                       std::string& wav);
 
 }  // namespace desktop

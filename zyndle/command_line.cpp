@@ -31,6 +31,7 @@ constexpr const char* examples = message(R"(Examples:
   zyndle find "E, G, C"            the chord that some notes are
   zyndle progression I-V-vi-IV     chords that go well together
   zyndle pack jazzChords           the chords of a style
+  zyndle jam I-V-vi-IV -o song.mid chords as music
   zyndle widget chord > today.svg  a widget as a picture
   zyndle gallery DIR               all widgets as a page
   zyndle settings list             what you have set

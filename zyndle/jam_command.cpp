@@ -79,6 +79,7 @@ struct JamOptions {
   std::optional<std::string> library;
   std::optional<std::string> soundfont;
   std::optional<std::string> file;
+  bool noGuitar = false;
   bool play = false;
   bool ascii = false;
 };
@@ -164,23 +165,27 @@ std::string nameOf(const auto& pattern) {
   return pattern ? pattern->name : nobody;
 }
 
-std::string describeLength(const Accompaniment& piece, WholeNumber length) {
+// To the nearest.
+WholeNumber secondsOf(const tonelake::Performance& performance) {
   constexpr WholeNumber secondsPerMinute = 60;
-  const WholeNumber seconds =
-      (length / tonelake::ticksPerCrotchet * secondsPerMinute + piece.tempo / 2) / piece.tempo;
+  const WholeNumber crotchets = performance.length / tonelake::ticksPerCrotchet;
+  return (crotchets * secondsPerMinute + performance.tempo / 2) / performance.tempo;
+}
+
+std::string describeLength(const Accompaniment& piece, WholeNumber seconds) {
   // TRANSLATORS: a length, any of the numbers may be 1: "8 bars of 4/4 at 92: 21 seconds", where 92
   // is the tempo.
   return translated("{0} bars of {1} at {2}: {3} seconds", piece.bars,
                     tonelake::rawValue(piece.arpeggio.timeSignature), piece.tempo, seconds);
 }
 
-std::string summary(const Accompaniment& piece, WholeNumber length) {
+std::string summary(const Accompaniment& piece, WholeNumber seconds) {
   std::vector<std::string> shapes;
   for (const auto& shape : piece.chords) shapes.push_back(shapeText(shape));
   return labelledRow(translated("Style"), {piece.arpeggio.name}) +
          labelledRow(translated("Bass"), {nameOf(piece.bass)}) +
          labelledRow(translated("Drums"), {nameOf(piece.drums)}) +
-         labelledRow(translated("Length"), {describeLength(piece, length)}) +
+         labelledRow(translated("Length"), {describeLength(piece, seconds)}) +
          labelledRow(translated("Shapes"), shapes);
 }
 
@@ -191,18 +196,15 @@ desktop::Synthesizer readSynthesizer(const JamOptions& options) {
   return *synthesizer;
 }
 
-// Sound, whose last notes need time to die away.
 void makeSound(const JamOptions& options, const desktop::Synthesizer& synthesizer, FileKind kind,
-               const tonelake::Performance& performance, const std::string& title) {
-  constexpr WholeNumber secondsOfTail = 3;
-  constexpr WholeNumber secondsPerMinute = 60;
-  const WholeNumber tail =
-      secondsOfTail * performance.tempo * tonelake::ticksPerCrotchet / secondsPerMinute;
-  const std::string midi = desktop::midiFile(performance, title, tail);
+               const std::string& midi, WholeNumber seconds) {
+  constexpr WholeNumber secondsToDieAway = 5;
   std::string problem;
   if (kind == FileKind::wav) {
-    writeFile(*options.file, "");  // tells in our words when it cannot be written
-    problem = desktop::renderMidi(synthesizer, midi, *options.file);
+    std::string wav;
+    problem =
+        desktop::renderMidi(synthesizer, midi, static_cast<int>(seconds + secondsToDieAway), wav);
+    if (problem.empty()) writeFile(*options.file, wav);
   }
   if (problem.empty() && options.play) problem = desktop::playMidi(synthesizer, midi);
   if (!problem.empty()) fail(problem);
@@ -216,12 +218,14 @@ void jam(const JamOptions& options) {
       readAccompaniment(options, readSongChords(options.chords, options.key, options.ascii));
   std::optional<desktop::Synthesizer> synthesizer;
   if (options.play || kind == FileKind::wav) synthesizer = readSynthesizer(options);
-  const tonelake::Performance performance = tonelake::perform(piece);
-  const std::string title = tonelake::join(options.chords, " ");
-  if (kind == FileKind::midi) writeFile(*options.file, desktop::midiFile(performance, title));
-  const std::string text = summary(piece, performance.length);
+  tonelake::Performance performance = tonelake::perform(piece);
+  if (options.noGuitar) performance.guitar.clear();
+  const std::string midi = desktop::midiFile(performance, tonelake::join(options.chords, " "));
+  if (kind == FileKind::midi) writeFile(*options.file, midi);
+  const WholeNumber seconds = secondsOf(performance);
+  const std::string text = summary(piece, seconds);
   if (!writesToOutput) writeStandardOutput(options.ascii ? desktop::toAscii(text) : text);
-  if (synthesizer) makeSound(options, *synthesizer, kind, performance, title);
+  if (synthesizer) makeSound(options, *synthesizer, kind, midi, seconds);
 }
 
 }  // namespace
@@ -249,9 +253,12 @@ void addJamCommand(CLI::App& app, Action& action) {
   addText("--library", options->library, message("Read styles from a JSON file"), "FILE");
   addText("-o,--output", options->file, message("Write a .mid or a .wav file"), "FILE");
   addText("--soundfont", options->soundfont, message("The sounds to play with"), "FILE");
-  command.add_flag("--play", options->play, translated("Play it aloud"))->disable_flag_override();
-  command.add_flag("--ascii", options->ascii, translated("Write ASCII characters only"))
-      ->disable_flag_override();
+  const auto addFlag = [&command](const char* name, bool& flag, const char* meaning) {
+    command.add_flag(name, flag, translated(meaning))->disable_flag_override();
+  };
+  addFlag("--no-guitar", options->noGuitar, message("Leave the guitar to you"));
+  addFlag("--play", options->play, message("Play it aloud"));
+  addFlag("--ascii", options->ascii, message("Write ASCII characters only"));
   command.callback([options, &action] { action = [options] { jam(*options); }; });
 }
 

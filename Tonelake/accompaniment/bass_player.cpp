@@ -7,7 +7,8 @@
 namespace tonelake {
 namespace {
 
-// A bass note from here up has its fifth below: the B on the second fret of the second string.
+// A bass note from here up, the B on the second fret of the second string, has its fifth below
+// where the instrument has it there.
 constexpr int highBassNote = 35;
 
 // The lowest note of a pitch class that lies above `note`.
@@ -23,8 +24,11 @@ int bassNoteNumber(BassPitch pitch, const Chord& chord) {
   switch (pitch) {
     case BassPitch::third:
       return liftAbove(root, pillars.third);
-    case BassPitch::fifth:
-      return liftAbove(root, pillars.fifth) - (root >= highBassNote ? pitchClasses : 0);
+    case BassPitch::fifth: {
+      const int above = liftAbove(root, pillars.fifth);
+      const int below = above - pitchClasses;
+      return root >= highBassNote && below >= openBassString ? below : above;
+    }
     case BassPitch::octave:
       return root + pitchClasses;
     case BassPitch::root:

@@ -1,0 +1,129 @@
+// Runs `zyndle jam` and `zyndle patterns` as a user would.
+
+#include <filesystem>
+#include <fstream>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "Tonelake/foundation/text.h"
+#include "tests/zyndle/command_runner.h"
+
+namespace zyndle {
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+class JamCommand : public testing::Test, protected CommandRunner {
+ protected:
+  std::string path(const std::string& name) const { return folder_.path() + "/" + name; }
+
+  std::string write(const std::string& name, const std::string& contents) const {
+    std::ofstream(path(name)) << contents;
+    return path(name);
+  }
+
+  // As another MIDI library reads it.
+  static std::string readMidi(const std::string& file) {
+    const auto result =
+        tonelake::testing::runProgram({{SYSTEM_PYTHON, READ_MIDI, file}, {}, "", ""});
+    EXPECT_EQ(result.errors, "");
+    return result.output;
+  }
+};
+
+TEST_F(JamCommand, WritesMidiFiles) {
+  const std::string file = path("song.mid");
+  const auto told = run({"jam", "I-V-vi–IV", "--key", "G", "--style", "four downstrokes",
+                         "--complexity", "0", "--tempo", "100", "-o", file});
+  EXPECT_EQ(told.status, 0) << told.errors;
+  EXPECT_THAT(told.output, AllOf(HasSubstr("8 bars of 4/4 at 100: 19 seconds"),
+                                 HasSubstr("Straight Rock"), HasSubstr("D xx0232, Em 022000")));
+  EXPECT_EQ(readMidi(file),
+            "format 1, 480 ticks, 19.200 seconds\n"
+            "I-V-vi–IV: metre 4/4, tempo 600000; 0 notes [] on []; ends at 15360\n"
+            "Guitar: program 25; 168 notes [40, 43, 47, 48, 50, 52, 55, 57, 59, 60, 62, 64, 66, "
+            "67] on [1, 2, 3, 4, 5, 6]; ends at 15360\n"
+            "Bass: program 33; 16 notes [28, 31, 36, 38] on [7]; ends at 15360\n"
+            "Drums: program 0; 96 notes [36, 38, 42] on [10]; ends at 15360\n");
+  // A waltz for bass alone, to standard output.
+  const auto bytes = run({"jam", "Am | E7", "--style", "Rolling Six", "--drums", "none", "--bass",
+                          "walking waltz", "--no-guitar", "--bars", "3", "-o", "-"});
+  EXPECT_EQ(readMidi(write("waltz.mid", bytes.output)),
+            "format 1, 480 ticks, 5.870 seconds\n"
+            "Am | E7: metre 3/4, tempo 652173; 0 notes [] on []; ends at 4320\n"
+            "Bass: program 33; 9 notes [28, 32, 33, 35, 36, 40] on [7]; ends at 4320\n");
+}
+
+TEST_F(JamCommand, DrawsPatternsAndReadsThemBack) {
+  EXPECT_THAT(run({"patterns"}).output,
+              AllOf(HasSubstr("  Bossa Nova                4/4, 2 bars\n"), HasSubstr("Grooves")));
+  EXPECT_THAT(run({"patterns", "campfire", "strum"}).output,
+              AllOf(HasSubstr("            |1 & 2 & 3 & 4 &\n"
+                              "downstroke  |O - o - - - o -\n"
+                              "upstroke    |- - - o - o - o\n"),
+                    HasSubstr("Anthem (3)")));
+  const std::string library = write("mine.json", run({"patterns", "Rolling Six", "--json"}).output);
+  EXPECT_THAT(run({"patterns", "--library", library}).output,
+              StartsWith("Ways to pick and strum\n  Rolling Six               3/4, 1 bar\n\n"));
+}
+
+TEST_F(JamCommand, RefusesInOneLine) {
+  const std::string start = R"({"sequences":[{"id":"0f8fad5b-d9cb-469f-a165-70867728950e",)"
+                            R"("name":"n","description":"d","sequence":)";
+  const std::string end = R"(,"timeSignature":"4/4","associatedBassPatterns":[],)"
+                          R"("associatedDrumPatterns":[]}]})";
+  const std::string silent = write("silent.json", start + "[[],[]]" + end);
+  const auto jam = [](std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), {"jam", "C"});
+    return arguments;
+  };
+  const auto fromFile = [&](const std::string& name, const std::string& contents) {
+    return jam({"-o", path("x.mid"), "--library", write(name, contents)});
+  };
+  struct Row {
+    std::vector<std::string> arguments;
+    const char* problem;
+    int status = 2;
+  };
+  const Row rows[] = {
+      {{"jam"}, "CHORDS is missing"},
+      {jam({}), "say where the music goes"},
+      {jam({"-o", "song.ogg"}), "\"song.ogg\" ends neither in .mid nor in .wav"},
+      {jam({"-o", path("no/song.mid")}), "no/song.mid", 1},
+      {{"jam", "C H", "-o", "-"}, "no chord is named \"H\""},
+      {{"jam", "I-V7", "-o", "-"}, "\"V7\" is no numeral"},
+      {{"jam", "I-V", "--key", "G7", "-o", "-"}, "--key \"G7\" is no key"},
+      {{"jam", "C G", "--key", "G", "-o", "-"}, "--key goes with Roman numerals"},
+      {jam({"-o", "-", "--style", "campfire"}), "the nearest are Campfire Strum"},
+      {jam({"-o", "-", "--drums", "Jazz Waltz"}), "\"Jazz Waltz\" is in 3/4, the style in 4/4"},
+      {jam({"-o", "-", "--tempo", "0"}), "--tempo \"0\" is not a whole number from 20 to 400"},
+      {jam({"-o", "-", "--bars", "257"}), "--bars \"257\""},
+      {jam({"-o", path("x.wav")}), "apt-get install fluidsynth fluid-soundfont-gm", 1},
+      {jam({"--play"}), "apt-get install fluidsynth fluid-soundfont-gm", 1},
+      {{"patterns", "waltz polka"}, "no pattern is named \"waltz polka\""},
+      {{"patterns", "--library", path("none.json")}, "cannot read"},
+      {fromFile("text.json", "[1, 2"), "not JSON"},
+      {fromFile("deep.json", start + std::string(100000, '[')), "nested deeper than 32 levels"},
+      {fromFile("huge.json", std::string(2000000, ' ') + "{}"), "larger than 1 MiB"},
+      {fromFile("type.json", start + R"([[{"noteDuration":"long"}]])" + end),
+       "sequences[0].sequence[0][0].noteDuration: expected a number"},
+      {fromFile("list.json", "[]"), "expected an object"},
+      {jam({"-o", "-", "--library", silent}), "there is no --style \"Campfire Strum\""},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(tonelake::join(row.arguments, " "));
+    const auto result = run(row.arguments);
+    EXPECT_EQ(result.status, row.status);
+    EXPECT_EQ(result.output, "");
+    EXPECT_THAT(result.errors, AllOf(StartsWith("zyndle: "), HasSubstr(row.problem)));
+    EXPECT_EQ(countLines(result.errors), 1U);
+  }
+  EXPECT_EQ(run(jam({"-o", path("x.mid"), "--library", silent, "--style", "n"})).status, 0);
+  EXPECT_THAT(run({"patterns", "n", "--library", silent}).output, HasSubstr("takes no time"));
+}
+
+}  // namespace
+}  // namespace zyndle
