@@ -85,6 +85,7 @@ std::string run(const Synthesizer& synthesizer, std::vector<std::string> argumen
   arguments.push_back(synthesizer.soundfont);
   arguments.push_back(song.path());
   std::vector<char*> list;
+  list.reserve(arguments.size() + 1);
   for (std::string& argument : arguments) list.push_back(argument.data());
   list.push_back(nullptr);
 
@@ -158,7 +159,7 @@ std::string renderMidi(const Synthesizer& synthesizer, const std::string& midi, 
                        std::string& wav) {
   const MemoryFile sound("zyndle.wav");
   if (!sound.isOpen()) return noMemory;
-  const std::string problem = run(
+  std::string problem = run(
       synthesizer,
       {"-n", "-i", "-q", "-g", gain, "-r", "44100", "-T", "wav", "-O", "s16", "-F", sound.path()},
       midi);

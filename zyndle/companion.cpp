@@ -32,17 +32,25 @@ void addCompanionCommand(CLI::App& app, Action& action, Arguments arguments,
       [&action, program, arguments] { action = [=] { becomeCompanion(program, arguments); }; });
 }
 
-void becomeCompanion(const char* program, Arguments arguments) {
-  std::vector<char*> list;
-  // exec promises not to change what it is given, which its type does not say.
-  for (const char* argument : arguments) list.push_back(const_cast<char*>(argument));
-  list.push_back(nullptr);
+std::optional<std::filesystem::path> findCompanion(const char* program) {
   const std::filesystem::path folder = ownFolder();
   for (const auto& place : {folder, folder / ".." / "libexec" / "zyndle"}) {
-    ::execv((place / program).c_str(), list.data());
+    if (::access((place / program).c_str(), X_OK) == 0) return place / program;
+  }
+  return std::nullopt;
+}
+
+void becomeCompanion(const char* program, Arguments arguments) {
+  const auto path = findCompanion(program);
+  if (path) {
+    std::vector<char*> list;
+    // exec promises not to change what it is given, which its type does not say.
+    for (const char* argument : arguments) list.push_back(const_cast<char*>(argument));
+    list.push_back(nullptr);
+    ::execv(path->c_str(), list.data());
   }
   fail(translated("{0} is missing: it should be installed beside zyndle, in {1}", program,
-                  folder.string()));
+                  ownFolder().string()));
 }
 
 }  // namespace zyndle

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+#include <optional>
 #include <span>
 
 #include "zyndle/command.h"
@@ -24,9 +26,12 @@ struct Companion {
 void addCompanionCommand(CLI::App& app, Action& action, Arguments arguments,
                          const Companion& companion);
 
-/// Becomes `program` with these same arguments. It is looked for in the folder that this program
-/// lies in, then in ../libexec/zyndle beside that folder. Returns only by a CommandError, when it
-/// is in neither.
+/// Where the program of a companion is: in the folder that this program lies in, or else in
+/// ../libexec/zyndle beside that folder. Nothing when it is in neither.
+std::optional<std::filesystem::path> findCompanion(const char* program);
+
+/// Becomes `program` with these same arguments. Returns only by a CommandError, when it is not
+/// installed.
 [[noreturn]] void becomeCompanion(const char* program, Arguments arguments);
 
 }  // namespace zyndle

@@ -10,6 +10,7 @@
 #include "zyndle/command_error.h"
 #include "zyndle/host.h"
 #include "zyndle/hosting/gallery_files.h"
+#include "zyndle/hosting/reminder_process.h"
 #include "zyndle/hosting/system_wake_ups.h"
 #include "zyndle/output.h"
 #include "zyndle/scale_option.h"
@@ -22,7 +23,7 @@ constexpr const char* examples =
     message(R"(DIR gets what "zyndle gallery" writes, and is kept up to date: at midnight the
 chord of the day changes, and a change of the settings shows at once. Files are
 replaced in one step. The page loads itself again every minute, so that it can
-hang on a wall. Stop it with Ctrl-C, or with SIGTERM.
+hang on a wall. Reminders are delivered while it runs. Stop it with Ctrl-C, or with SIGTERM.
 
 Examples:
   zyndle host ~/widgets &
@@ -79,9 +80,14 @@ void hostWidgets(const Options& options) {
   reportProblem(wakeUps.problem());
   prepareGallery(gallery);
   const auto keeper = std::make_shared<GalleryKeeper>(gallery, sources);
+  ReminderProcess reminders;
   // Whatever else a host does from time to time becomes a duty in this list.
   const std::vector<HostDuty> duties{
       [keeper](WakeUp reason, tonelake::Instant now) { return (*keeper)(reason, now); },
+      [&reminders](WakeUp, tonelake::Instant) {
+        reminders.keepRunning();
+        return std::optional<tonelake::Instant>();
+      },
   };
   runHost(duties, *sources.calendar, wakeUps);
 }
