@@ -33,7 +33,7 @@ filesystem::path unitFolder() {
 DeliveryCommand deliveryCommand() {
   std::error_code error;
   const filesystem::path program = filesystem::read_symlink("/proc/self/exe", error);
-  if (error) fail(translated("cannot tell where zyndle is installed: {}", error.message()));
+  if (error) fail(translated("cannot tell where {0} is installed: {1}", "zyndle", error.message()));
   return {program.string(), absoluteVariable("XDG_DATA_HOME")};
 }
 
