@@ -147,8 +147,8 @@ std::span<const ChordProgressionRow> minorProgressionRows() {
 
     {"i-v-VI-v", {Style::folk, Style::ballad},
      "Alternates between dark tension (--v--) and calmer places: the settled gloom of home (--i--) "
-     "and the brief glow of the sixth chord (--VI--), whose root lies only a half step above. "
-     "Since a minor dominant never insists on resolving, the loop sways instead of arriving, like "
+     "and the brief glow of the sixth chord (--VI--), whose root lies only a half step above the "
+     "dominant's. Since a minor dominant never insists on resolving, the loop sways instead of arriving, like "
      "a verse that keeps something to itself."},
 
     {"i-VI-v-iv", {Style::rock, Style::ballad},

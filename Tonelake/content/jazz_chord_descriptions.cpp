@@ -64,16 +64,16 @@ constexpr ChordTextRow descriptions[] = {
 
     {"dominant 7th add 11",
      "In the (--1--) dominant 7th add 11 chord the perfect eleventh ((--5--)) stays beside the "
-     "major third ((--2--)) instead of replacing it. Jazz guitarists keep the two an octave "
-     "apart, (--2--) low and (--5--) on top, with the minor seventh ((--4--)) between and root "
-     "((--1--)) and perfect fifth ((--3--)) left to others. It comes up in bluesy vamps and when "
+     "major third ((--2--)) instead of replacing it. Jazz guitarists keep the two more than "
+     "an octave apart, (--2--) low and (--5--) on top, with the minor seventh ((--4--)) between "
+     "and root ((--1--)) and perfect fifth ((--3--)) left to others. It comes up in bluesy vamps and when "
      "a sus chord is about to let its fourth fall."},
 
     {"major 7th add 11",
      "Over a major chord the eleventh is the note that students are told to avoid; the (--1--) "
      "major 7th add 11 chord wants it. A perfect eleventh ((--5--)) on top of root ((--1--)), "
-     "major third ((--2--)), perfect fifth ((--3--)), and major seventh ((--4--)) delays the "
-     "tonic like a sigh and then moves down to the third. Modern players also let it stand, "
+     "major third ((--2--)), perfect fifth ((--3--)), and major seventh ((--4--)) leans on "
+     "the chord like a sigh and then moves down to its third. Modern players also let it stand, "
      "spread over open strings."},
 
     {"minor 7th add 11",
@@ -87,7 +87,8 @@ constexpr ChordTextRow descriptions[] = {
      "The (--1--) dominant 7th add 13 chord is the everyday dressed-up dominant: root ((--1--)) "
      "in the bass, minor seventh ((--4--)), major third ((--2--)), and major thirteenth ((--5--))"
      " stacked above, and no perfect fifth ((--3--)). Swing guitarists put it on the V and on "
-     "every chord of a blues. When the tonic follows, (--5--) falls to its ninth or its root."},
+     "every chord of a blues. When the tonic follows, (--5--) stays as its third or falls to its "
+     "ninth."},
 
     {"major 7th add 13",
      "With the (--1--) major 7th add 13 chord a guitarist gives a tonic both its major seventh "

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -43,67 +44,31 @@ void expectProblem(const ProgramResult& result, int status, const std::string& p
   EXPECT_TRUE(tonelake::isValidUtf8(result.errors));
 }
 
+// A call and a part of what comes of it.
+struct Call {
+  std::vector<std::string> arguments;
+  std::string text;
+};
+
+// Calls of a file beside this one, a JSON object a line: "arguments" and the text under `key`.
+std::vector<Call> readCalls(const std::string& file, const char* key) {
+  std::vector<Call> calls;
+  std::ifstream rows(std::string(COMMAND_CALLS) + "/" + file);
+  for (std::string line; std::getline(rows, line);) {
+    const Value row = tonelake::json::parse(line);
+    calls.push_back({row.at("arguments"), row.at(key)});
+  }
+  EXPECT_FALSE(calls.empty()) << file;
+  return calls;
+}
+
 TEST_F(Command, AnswersWithStatusAndText) {
-  struct Row {
-    std::vector<std::string> arguments;
-    const char* output;
-  };
-  const Row rows[] = {
-      {{"--version"}, "zyndle 0.1.0\n"},
-      {{"--help"}, "zyndle chord G --tuning DADGAD"},
-      {{"today", "--help"}, "zyndle today --date 2024-02-29"},
-      {{"chord", "--help"}, "drop D, double drop D"},
-      {{"settings", "set", "--help"}, "todayChordCategory"},
-      {{"recent", "add", "--help"}, "zyndle recent add F#m7b5"},
-      {{"collections", "add", "--help"}, "zyndle collections add \"Warm-up\" C Am F G7"},
-      {{"today"}, "Chord of the day 2"},
-      {{"today", "--category", "jazz", "--date", "2024-02-29"}, "2024-02-29, Jazz"},
-      {{"chord", "C"}, "Place the 2nd finger on the 2nd fret of the 4th string"},
-      {{"chord", "C", "major", "7th"}, "C, E, G, B"},
-      {{"chord", "F", "--ascii"}, "1==="},
-      {{"chord", "C/E", "--limit", "99999"}, "Mute the fifth and sixth strings"},
-      {{"chord", "Eb", "--capo", "3"}, "Capo       3"},
-      {{"voicings", "C/E"}, "8 of 126 voicings"},
-      {{"voicings", "Em7add11", "--max-fret", "0", "--limit", "99999"}, "E A D G B E"},
-      {{"voicings", "Eb", "--max-fret", "0"}, "no way to play it"},
-      {{"voicings", "--help"}, "drop D, double drop D"},
-      {{"packs"}, "jazzChords             Jazz Chords Collection"},
-      {{"pack", "metal"}, "E B E      "},
-      {{"connect", "| C, G/B | Am", "F |"}, "G/B                Am"},
-      {{"chord", "F#m", "--tuning", "Eb Ab Db Gb Bb Eb"}, "E♭, A♭, D♭, G♭, B♭, E♭"},
-      {{"chord", "F#m", "--tuning", "half step down", "--ascii"}, "Eb, Ab, Db, Gb, Bb, Eb"},
-      {{"find", "E, G, C"}, "C major/E  C, E, G  First inversion"},
-      {{"find", "c", "EB", "Gb", "a", "--ascii"},
-       "  Ebdim7/Dbb  Eb, Gb, Bbb, Dbb   Third inversion"},
-      {{"find", "A#", "D", "F"}, "A♯ major"},
-      {{"find", "C E Bb"}, "  - C dominant 7th without G\n"},
-      {{"find", "E-C-Bb"}, "  - C dominant 7th/E without G\n"},
-      {{"find", "C E G Db"}, "  - C major plus D♭\n"},
-      {{"find", "C Eb G A"}, "\n\n  C minor 6    C, E♭, G, A  Root position\n  Amin7(♭5)/C  "},
-      {{"find", "C C# D"}, "none comes near"},
-      {{"find", "--frets", "x32010"}, "  Notes      C, E, G, C, E\n\n  C major  "},
-      {{"find", "--frets", "-1 1 3 3 3 1"}, "  B♭ major  "},
-      {{"find", "--frets", "0-0-0-2-3-2", "--tuning", "DADGAD", "--capo", "2"}, "E7sus2"},
-      {{"progression", "I-V-vi-IV", "--key", "G"}, "from home (G major) to the expectant dominant"},
-      {{"progression", "i – VI | III, VII", "--key", "ebm"},
-       "E♭ minor, C♭ major, G♭ major, D♭ major"},
-      {{"progression", "I bVII IV I", "--key", "D MAJOR"}, "I-♭VII-IV-I in D major"},
-      {{"progression", "i-iv", "--key", "B#"}, "B♯ minor, E♯ minor"},
-      {{"progression", "--svg", "-", "I-V-vi-IV-ii", "--key", "Cb"},
-       ">I-V-vi-IV-ii in C♭ major</title>"},
-      {{"progressions"}, "A simple dark repeating pattern returning home each cycle."},
-      {{"progressions", "--style", "HIP-HOP"}, "No progression of this key and style"},
-      {{"progressions", "--key", "A minor", "--style", "folk"},
-       "minor\n\ni-iv-v-i  Classical, Folk\n"},
-      {{"chord", "Am", "--svg", "-"}, "<svg"},
-      {{"settings", "list"}, "left_handed            (not set)"},
-  };
-  for (const Row& row : rows) {
+  for (const Call& row : readCalls("answered_commands.jsonl", "output")) {
     SCOPED_TRACE(tonelake::join(row.arguments, " "));
     const ProgramResult result = run(row.arguments);
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.errors, "");
-    EXPECT_THAT(result.output, HasSubstr(row.output));
+    EXPECT_THAT(result.output, HasSubstr(row.text));
     EXPECT_THAT(result.output, Not(HasSubstr("\033")));
     if (result.output.starts_with("<svg") || row.arguments.back() == "-") continue;
     for (const std::string_view line : tonelake::split(result.output, '\n')) {
@@ -113,87 +78,13 @@ TEST_F(Command, AnswersWithStatusAndText) {
 }
 
 TEST_F(Command, RefusesBadArgumentsInOneLine) {
-  struct Row {
-    std::vector<std::string> arguments;
-    const char* problem;
-  };
-  const Row rows[] = {
-      {{}, "a command is missing"},
-      {{"tomorrow"}, "no command \"tomorrow\""},
-      {{"--verbose"}, "no option \"--verbose\""},
-      {{"today", "tomorrow"}, "\"tomorrow\" is one argument too many"},
-      {{"today", "--category", "easy"}, "\"easy\" is not one of beginner, advanced, jazz"},
-      {{"today", "--date"}, "--date needs one value"},
-      {{"today", "--date", ""}, "--date \"\" is not of the form YYYY-MM-DD"},
-      {{"today", "--date", "2026-02-30"}, "\"2026-02-30\" is not a day"},
-      {{"today", "--date", "2025-02-29"}, "\"2025-02-29\" is not a day"},
-      {{"today", "--date", "0000-01-01"}, "\"0000-01-01\" is not a day"},
-      {{"today", "--date", "2026-1-1"}, "\"2026-1-1\" is not of the form"},
-      {{"today", "--json=x"}, "--json takes no value"},
-      {{"today", "--json", "--svg", "-"}, "--json and --svg -"},
-      {{"today", "--svg", ""}, "--svg needs"},
-      {{"today", "--left-handed", "--right-handed"}, "contradict"},
-      {{"chord"}, "NAME is missing"},
-      {{"chord", ""}, "empty"},
-      {{"chord", "Hm7"}, "no chord is named \"Hm7\"; the nearest are"},
-      {{"chord", "\xff\xfe\x1b[31m"}, "UTF-8"},
-      {{"chord", "x\ny"}, "\"x y\""},
-      {{"chord", "C", "--limit", "0"}, "--limit \"0\""},
-      {{"chord", "C", "--limit", "4.5"}, "--limit \"4.5\""},
-      {{"chord", "C", "--limit", "99999999999999999999"}, "--limit"},
-      {{"chord", "C", "--tuning", "E A D G B"}, "names 5 strings"},
-      {{"chord", "C", "--tuning", "E A D G H E"}, "\"H\" is not a note name"},
-      {{"find"}, "NOTES or --frets is missing"},
-      {{"find", "C", "B#"}, "fewer than two different notes"},
-      {{"find", "C", "E", "H"}, "\"H\" is not a note name"},
-      {{"find", "C", "E", "--frets", "x32010"}, "cannot both be given"},
-      {{"find", "C", "E", "--capo", "1"}, "--capo are for shapes"},
-      {{"find", "--frets", "x3201"}, "--frets \"x3201\" has 5 frets"},
-      {{"find", "--frets", "8 10 10 9 8 25"}, "\"25\" is neither a fret"},
-      {{"find", "--frets", ""}, "has 0 frets"},
-      {{"progression", "V7"}, "\"V7\" is not a plain triad"},
-      {{"progression", "Iv"}, "\"Iv\" is not a plain triad"},
-      {{"progression", "-"}, "names no chord"},
-      {{"progression", "I", "--key", "C7"}, "--key \"C7\" is not a key"},
-      {{"progressions", "--key", "F##"}, "--key \"F##\" is not a key"},
-      {{"progressions", "--style", "polka"}, "--style \"polka\" is not one of Folk, "},
-      {{"chord", "C", "--capo", "13"}, "--capo \"13\" is not a whole number from 0 to 12"},
-      {{"voicings", "C", "--max-fret", "-1"},
-       "--max-fret \"-1\" is not a whole number from 0 to 24"},
-      {{"voicings", "C", "--inner-mutes", "5"}, "--inner-mutes \"5\""},
-      {{"connect", "C | H"}, "no chord is named \"H\""},
-      {{"connect", " | "}, "names no chord"},
-      {{"widget"}, "KIND is missing"},
-      {{"pack", "slashChords"}, "no pack \"slashChords\"; there are commonChords"},
-      {{"widget", "Chord"}, "no widget \"Chord\"; there are chord, launcher"},
-      {{"widget", "chord", "--family", "tiny"}, "--family \"tiny\" is not one of small, medium"},
-      {{"widget", "recent", "--family", "small"}, "is not one of extraLargePortrait"},
-      {{"widget", "recent", "--format", "gif"},
-       "--format \"gif\" is not one of svg, png, pdf, json"},
-      {{"widget", "recent", "--scale", "2"}, "--scale is for --format png"},
-      {{"widget", "recent", "--format", "png", "--scale", "0"}, "--scale \"0\" is not a number"},
-      {{"widget", "recent", "--format", "png", "--scale", "nan"}, "above 0, up to 100"},
-      {{"gallery"}, "DIR is missing"},
-      {{"gallery", ""}, "DIR is empty"},
-      {{"host", "d", "--scale", "3x"}, "--scale \"3x\""},
-      {{"widget", "recent", "-o", ""}, "-o needs the name of a file"},
-      {{"settings"}, "a command is missing"},
-      {{"settings", "forget"}, "no command \"forget\""},
-      {{"settings", "get", "color"}, "no setting \"color\"; there are todayChordCategory"},
-      {{"settings", "set", "left_handed"}, "VALUE is missing"},
-      {{"settings", "set", "left_handed", "yes"}, "\"yes\" is not one of true, false"},
-      {{"settings", "set", "todayChordCategory", "Jazz"}, "beginner, advanced, jazz"},
-      {{"settings", "set", "chordCollections", "[]"}, "data that the app keeps"},
-      {{"recent", "add"}, "CHORD is missing"},
-      {{"recent", "add", "H"}, "\"H\""},
-      {{"collections", "add", "Warm-up"}, "CHORD is missing"},
-      {{"collections", "add", "Warm-up", "C", "H"}, "\"H\""},
-      {{"collections", "add", " \n", "C"}, "TITLE is empty"},
-      {{"collections", "add", "\xC3(", "C"}, "is not valid UTF-8"},
-  };
-  for (const Row& row : rows) {
+  std::vector<Call> calls = readCalls("refused_commands.jsonl", "error");
+  // What no JSON text can hold.
+  calls.push_back({{"chord", "\xff\xfe\x1b[31m"}, "UTF-8"});
+  calls.push_back({{"collections", "add", "\xC3(", "C"}, "is not valid UTF-8"});
+  for (const Call& row : calls) {
     SCOPED_TRACE(tonelake::join(row.arguments, " "));
-    expectProblem(run(row.arguments), 2, row.problem);
+    expectProblem(run(row.arguments), 2, row.text);
   }
 }
 

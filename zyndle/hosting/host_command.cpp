@@ -23,7 +23,8 @@ constexpr const char* examples =
     message(R"(DIR gets what "zyndle gallery" writes, and is kept up to date: at midnight the
 chord of the day changes, and a change of the settings shows at once. Files are
 replaced in one step. The page loads itself again every minute, so that it can
-hang on a wall. Reminders are delivered while it runs. Stop it with Ctrl-C, or with SIGTERM.
+hang on a wall. Reminders are delivered while it runs. Stop it with Ctrl-C, or
+with SIGTERM.
 
 Examples:
   zyndle host ~/widgets &
