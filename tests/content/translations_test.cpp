@@ -39,10 +39,12 @@ Messages readMessages(const std::string& name) {
 }
 
 // What a translation has to keep: slots and markers, places of values, options and commands.
+// Lines may break anywhere.
 std::multiset<std::string> fixedParts(const std::string& text) {
+  const std::string oneLine = replaceAll(text, "\\n", " ");
   static const RE2 part(R"((--[^\s-]+--|--[a-z][a-z-]*|%s|\{\d*\}|zyndle [a-z]+))");
   std::multiset<std::string> parts;
-  re2::StringPiece rest(text);
+  re2::StringPiece rest(oneLine);
   for (std::string found; RE2::FindAndConsume(&rest, part, &found);) parts.insert(found);
   return parts;
 }
