@@ -145,6 +145,17 @@ class Delivery(Trial):
         self.assertEqual(len(server.GetMethodCalls("Notify")), 2)
         self.assertEqual(self.delivered(), 1)
 
+    def test_a_widget_host_delivers_while_it_runs(self):
+        self.schedule(0)
+        self.serve()
+        host = subprocess.Popen(
+            [pathlib.Path(PROGRAM).with_name("zyndle"), "host", self.folder / "widgets"],
+            env=self.environment)
+        self.addCleanup(host.kill)
+        self.wait_for(lambda: self.delivered() == 1)
+        host.terminate()
+        self.assertEqual(host.wait(), 0)
+
     def test_a_click_while_waiting(self):
         opened = self.folder / "opened"
         opener = self.folder / "xdg-open"
