@@ -27,9 +27,8 @@ constexpr ChordTextRow descriptions[] = {
     {"dominant 7th",
      "The (--1--) dominant 7th chord sets a minor seventh ((--4--)) on a major triad of root "
      "((--1--)), major third ((--2--)), and perfect fifth ((--3--)). The tritone between (--2--) "
-     "and (--4--) makes it restless and draws it towards the chord a fifth below. The blues, "
-     "which builds whole songs from three such chords, lets that tension stand as a color of its "
-     "own."},
+     "and (--4--) makes it restless and draws it toward the chord a fifth below. The blues, which "
+     "builds whole songs from three such chords, lets that tension stand as a color of its own."},
 
     {"major 7th",
      "The (--1--) major 7th chord adds a major seventh ((--4--)), a semitone short of the octave,"
@@ -57,9 +56,9 @@ constexpr ChordTextRow descriptions[] = {
      "Strummers in rock and pop play it by turns with the major chord on the same root."},
 
     {"suspended 2nd",
-     "The (--1--) suspended 2nd chord has a major second ((--2--)) instead of a third, close "
-     "above the root ((--1--)) and below the perfect fifth ((--3--)). With no third to settle the"
-     " mood it floats, neither glad nor sad. Folk pickers, indie bands, and makers of ambient "
+     "The (--1--) suspended 2nd chord has a major second ((--2--)) instead of a third, close to "
+     "the root ((--1--)) and well below the perfect fifth ((--3--)). With no third to settle the "
+     "mood it floats, neither glad nor sad. Folk pickers, indie bands, and makers of ambient "
      "music let it ring where a full triad would say too much."},
 
     {"6",
@@ -70,8 +69,8 @@ constexpr ChordTextRow descriptions[] = {
 
     {"minor major 6",
      "The (--1--) minor major 6 chord joins the root ((--1--)), minor third ((--2--)), and "
-     "perfect fifth ((--3--)) to a major sixth ((--4--)), the degree that the melodic minor scale"
-     " raises on its way up. Dark third and bright sixth keep each other in balance, bittersweet "
+     "perfect fifth ((--3--)) to a major sixth ((--4--)), a degree that the melodic minor scale "
+     "raises on its way up. Dark third and bright sixth keep each other in balance, bittersweet "
      "and at rest. Tango and film music close a minor phrase on it; in its tones it is the minor "
      "6 chord under another name."},
 

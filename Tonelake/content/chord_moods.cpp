@@ -98,7 +98,7 @@ constexpr ChordTextRow genres[] = {
     {"dominant 7th sharp 9th",     "Psychedelic Rock, Blues Rock, Funk, Jazz"},
     {"augmented 7th flat 9th",     "Bebop, Modern Jazz, Late Romantic"},
     {"minor 7th flat 5",           "Jazz, Bossa Nova, Romantic, Latin"},
-    {"minor 7th sharp 5",          "Fusion, Film Scores, Progressive Rock"},
+    {"minor 7th sharp 5",          "Jazz, Fusion, Film Scores"},
     {"minor 7th flat 9th",         "Flamenco, Metal, Modal Jazz"},
     {"6 suspended 4th",            "Gospel, Folk Rock, Country"},
     {"6 suspended 2nd",            "Ambient, Folk, New Age"},

@@ -84,10 +84,11 @@ std::span<const ChordProgressionRow> majorProgressionRows() {
      "of an old love song."},
 
     {"I-VI-ii-V", {Style::jazz, Style::classical},
-     "After starting at home (--I--), the sixth chord arrives as a bright surprise, major (--VI--) "
-     "where the key would have it minor. Its third is the leading tone of the supertonic (--ii--), "
-     "so the music is pushed and not merely led on to the dominant (--V--). The turnaround sounds "
-     "all the more playful and urgent for it."},
+     "After starting at home (--I--), the progression springs a bright surprise: its sixth chord "
+     "is major (--VI--) where the key would have it minor. The third of that chord is the leading "
+     "tone of the supertonic (--ii--), so the music is pushed there, not merely led, before it "
+     "goes on to the dominant (--V--). The turnaround sounds all the more playful and urgent for "
+     "it."},
 
     {"I-♭VII-IV-I", {Style::rock, Style::modal},
      "Uses a borrowed chord (--♭VII--) from the Mixolydian mode, which has no leading tone and so "

@@ -50,7 +50,7 @@ constexpr CuratedRow rows[] = {
      "D suspended 2nd, F 5"},
 
     {ChordListCategory::country, "country-music", "Essential Country",
-     "Country music — it’s all about storytelling, twang, and heartfelt vibes. With these open "
+     "Country music — it’s all about storytelling, twang, and heartfelt vibes. With these plain "
      "chords and bright sevenths you can strum along to a honky-tonk stomp or a back-porch ballad.",
      "G major, C major, D major, A major, E major, A dominant 7th, D dominant 7th, "
      "G dominant 7th, E minor, B minor, F major, B dominant 7th, B major, D suspended 4th"},

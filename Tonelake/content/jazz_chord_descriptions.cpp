@@ -132,7 +132,7 @@ constexpr ChordTextRow descriptions[] = {
      " needs no new shape. Solo over it with the melodic minor scale a semitone above (--1--)."},
 
     {"minor 7th flat 5",
-     "Every minor ii-V-i begins with a chord such as the (--1--) minor 7th flat 5: root "
+     "Nearly every minor ii-V-i begins with a chord such as the (--1--) minor 7th flat 5: root "
      "((--1--)), minor third ((--2--)), diminished fifth ((--3--)), and minor seventh ((--4--)). "
      "The grip is also a minor 6 chord on (--2--), and swing guitarists think of it that way. "
      "Over it they play the Locrian mode, or the same with a raised second for a softer sound."},
@@ -159,15 +159,15 @@ constexpr ChordTextRow descriptions[] = {
      " chord is at rest. It works as a delayed ending of a minor tune."},
 
     {"minor major 7th add 13",
-     "Both tones by which melodic minor differs from natural minor are in the (--1--) minor major"
-     " 7th add 13 chord: the major seventh ((--4--)) and the major thirteenth ((--5--)), over "
-     "root ((--1--)), minor third ((--2--)), and perfect fifth ((--3--)). Guitarists drop the "
-     "fifth and stack (--1--), (--4--), (--2--), and (--5--). It is the fullest of the minor "
-     "tonics, good for a last chord that a horn section might play."},
+     "Both tones by which melodic minor differs from natural minor are in the (--1--) minor major "
+     "7th add 13 chord: the major seventh ((--4--)) and the major thirteenth ((--5--)), over root "
+     "((--1--)), minor third ((--2--)), and perfect fifth ((--3--)). Guitarists drop the fifth "
+     "and stack (--1--), (--4--), (--2--), and (--5--). It is a full and stately minor tonic, "
+     "good for a last chord that a horn section might play."},
 
     {"major 7th suspended 4th",
      "In the (--1--) major 7th suspended 4th chord the perfect fourth ((--2--)), perfect fifth "
-     "((--3--)), and major seventh ((--4--)) are the dominant of the key over its own root "
+     "((--3--)), and major seventh ((--4--)) are the dominant of the key over the tonic's root "
      "((--1--)). Jazz guitarists use it to hold an ending open over a pedal point and then let "
      "the fourth fall to the third. Since the nineties it has also stood alone, as a color in "
      "modern comping."},
@@ -188,9 +188,9 @@ constexpr ChordTextRow descriptions[] = {
     {"diminished 7th",
      "The (--1--) diminished 7th chord, root ((--1--)), minor third ((--2--)), diminished fifth "
      "((--3--)), and diminished seventh ((--4--)), repeats itself every three frets, so one grip "
-     "serves four chords. Jazz guitarists use it to fill the gap between two neighbors, such as I"
-     " and ii, and in place of a dominant 7th flat 9th without its root. Its scale alternates "
-     "whole and half steps."},
+     "serves four chords. Jazz guitarists use it to fill the gap between two neighbors, such as I "
+     "and ii, and as a dominant 7th flat 9th without its root. Its scale alternates whole and "
+     "half steps."},
 };
 // clang-format on
 
