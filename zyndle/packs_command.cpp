@@ -61,8 +61,9 @@ ChordListCategory readCategory(const std::string& name) {
 
 ChordPosition positionOf(const tonelake::WholeNumbers& pinned) {
   tonelake::Frets frets{};
-  std::transform(pinned.begin(), pinned.end(), frets.begin(),
-                 [](tonelake::WholeNumber fret) { return static_cast<std::int8_t>(fret); });
+  for (std::size_t string = 0; string < std::min(frets.size(), pinned.size()); ++string) {
+    frets[string] = static_cast<std::int8_t>(pinned[string]);
+  }
   return {frets, tonelake::findFingers(frets).value_or(tonelake::Fingers{})};
 }
 

@@ -41,7 +41,7 @@ SceneItems draw(const WidgetSmallChordCell& cell, const Rectangle& frame,
   const TextStyle style{{regularFont, layout::cellTitleFont},
                         title.empty() ? widgetPalette::subtitle : widgetPalette::title,
                         TextAnchor::middle};
-  items.push_back({fitLine(title.empty() ? "Unknown chord" : title, style,
+  items.push_back({fitLine(title.empty() ? localized("Unknown chord") : title, style,
                            {middle, frame.y + layout::cellTitleBaseline},
                            frame.width - 2 * tall::cardPadding)});
   if (const auto diagram = widgetDiagram(cell.chord, settings)) {

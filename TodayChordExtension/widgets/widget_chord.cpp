@@ -34,12 +34,12 @@ std::string widgetTones(const std::optional<Chord>& chord) {
 
 std::string chordOfTheDayTitle(const std::optional<Chord>& chord, tonelake::WholeNumber maxChars) {
   const std::string title = widgetTitle(chord, maxChars);
-  return title.empty() ? "No chord" : title;
+  return title.empty() ? localized("No chord") : title;
 }
 
 std::string chordOfTheDayTones(const std::optional<Chord>& chord) {
   const std::string tones = widgetTones(chord);
-  return tones.empty() ? "Find one in Zyndle" : tones;
+  return tones.empty() ? localized("Find one in Zyndle") : tones;
 }
 
 std::string chordOfTheDayLabel(const std::optional<Chord>& chord) {

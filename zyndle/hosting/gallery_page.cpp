@@ -5,34 +5,35 @@
 #include "Tonelake/foundation/text.h"
 #include "zyndle/hosting/embedded_web.h"
 #include "zyndle/hosting/gallery.h"
+#include "zyndle/translation.h"
 
 namespace zyndle {
 namespace {
 
 using todaychord::WidgetFamily;
 
-// {} in order: the refresh, the style, the lock screen's pictures, the home screen's, the scripts.
+// The texts are ours and hold nothing that HTML would have to escape.
 constexpr const char* page = R"(<!DOCTYPE html>
-<html lang="en">
+<html lang="{language}">
 <head>
 <meta charset="utf-8">
 <meta name="viewport" content="width=device-width, initial-scale=1">
-{}<title>Zyndle widgets</title>
+{refresh}<title>{title}</title>
 <style>
-{}</style>
+{style}</style>
 </head>
 <body>
-<h1>Zyndle widgets</h1>
+<h1>{title}</h1>
 <main>
-<section class="lock" aria-label="Lock screen">
+<section class="lock" aria-label="{lockScreen}">
 <p class="clock"></p>
-{}</section>
-{}</main>
-<p id="link" role="status"></p>
+{accessories}</section>
+{widgets}</main>
+<p id="link" role="status" data-text="{leadsTo}"></p>
 <script>
-{}</script>
+{pluck}</script>
 <script>
-{}</script>
+{script}</script>
 </body>
 </html>
 )";
@@ -74,9 +75,18 @@ std::string writeGalleryPage(const std::vector<GalleryPicture>& pictures,
       secondsToReload
           ? fmt::format("<meta http-equiv=\"refresh\" content=\"{}\">\n", *secondsToReload)
           : "";
-  return fmt::format(page, refresh, readWebFile("gallery.css"), writeFigures(pictures, true),
-                     writeFigures(pictures, false), desktop::pluckScript(),
-                     readWebFile("gallery.js"));
+  // TRANSLATORS: the code of your language: "de", "es", ...
+  const std::string language = translated("en");
+  // TRANSLATORS: {} is an address, and stays {} here.
+  const std::string leadsTo = translated("This leads to {}");
+  return fmt::format(page, fmt::arg("language", language), fmt::arg("refresh", refresh),
+                     fmt::arg("title", translated("Zyndle widgets")),
+                     fmt::arg("style", readWebFile("gallery.css")),
+                     fmt::arg("lockScreen", translated("Lock screen")),
+                     fmt::arg("accessories", writeFigures(pictures, true)),
+                     fmt::arg("widgets", writeFigures(pictures, false)),
+                     fmt::arg("leadsTo", leadsTo), fmt::arg("pluck", desktop::pluckScript()),
+                     fmt::arg("script", readWebFile("gallery.js")));
 }
 
 }  // namespace zyndle

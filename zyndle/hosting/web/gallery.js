@@ -3,7 +3,7 @@
   const notice = document.getElementById('link');
   document.addEventListener('click', event => {
     const link = event.target.closest('a[href^="zyndle:"]');
-    if (link !== null) notice.textContent = `This leads to ${link.getAttribute('href')}`;
+    if (link !== null) notice.textContent = notice.dataset.text.replace('{}', link.getAttribute('href'));
   });
 
   const clock = document.querySelector('.clock');
