@@ -34,7 +34,8 @@ bring_up_to_date() (
   touch "$root/build/started"
   [[ -x $program ]] || say "building zyndle, which takes a few minutes the first time"
   build release zyndle
-  ldd "$program"* | sed -n 's|.* => \(/[^ ]*\).*|\1|p' >"$libraries"
+  # The companions of the program lie beside it.
+  find "${program%/*}" -maxdepth 1 -type f -executable -exec ldd {} + | sed -n 's|.* => \(/[^ ]*\).*|\1|p' >"$libraries"
   mv "$root/build/started" "$stamp"
 )
 
