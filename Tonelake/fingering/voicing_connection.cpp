@@ -6,9 +6,9 @@
 // the cheapest way to arrive there goes through one voicing of the chord before. Worked through
 // for C major to A minor with two voicings each:
 //
-//   C (x,3,2,0,1,0) costs 86, C (x,3,5,5,5,3) 98; A minor (x,0,2,2,1,0) 43, (5,7,7,5,5,5) 90.
+//   C (x,3,2,0,1,0) costs 79, C (x,3,5,5,5,3) 117; A minor (x,0,2,2,1,0) 38, (5,7,7,5,5,5) 109.
 //
-// The open A minor is reached from the open C for 86 and the change, or from the barre for 98 and
+// The open A minor is reached from the open C for 79 and the change, or from the barre for 117 and
 // a change that lifts and moves every finger; the first is kept. So is the cheaper way to the
 // barre A minor. The cheaper of the two ends is chosen, and its way is followed backwards.
 
@@ -24,7 +24,7 @@
 namespace tonelake::Voicings {
 namespace {
 
-// The amounts, in the unit of Voicing::cost, where a fret of span is 20.
+// The amounts, in the unit of Voicing::cost, where a fret of span is 18.
 // clang-format off
 constexpr int movedHand    =  30;  // each fret that the hand moves along the neck
 constexpr int liftedFinger =  10;  // a finger that is lifted, put down, or both to move over

@@ -38,7 +38,7 @@ std::vector<Voicing> findVoicings(const Chord& chord, const TuningNames& tuning,
 /// moved over or put down; a finger that stays on its string and fret is a gain (see
 /// costOfChange). C, A minor, F and G come out as
 ///
-///   (x,3,2,0,1,0)  (x,0,2,2,1,0)  (x,x,3,2,1,1)  (x,x,5,4,3,3)
+///   (x,3,2,0,1,0)  (x,0,2,2,1,0)  (x,x,3,2,1,1)  (3,2,0,0,0,3)
 ///
 /// Of each chord the best `options.limit` voicings are considered, and none that is much harder
 /// than its best. Empty when one of the chords has no voicing, see findVoicings. Any thread may
