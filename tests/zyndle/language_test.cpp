@@ -78,7 +78,9 @@ TEST_F(Language, OfProblemsIsTheSame) {
 }
 
 TEST_F(Language, WithoutItsTextsIsEnglishOrAProblem) {
-  const std::string lonely = folder_.path("zyndle");
+  // Two folders down, so that every place where it looks for texts lies in a folder of ours.
+  std::filesystem::create_directories(folder_.path("tree/bin"));
+  const std::string lonely = folder_.path("tree/bin/zyndle");
   std::filesystem::copy_file(ZYNDLE_PROGRAM, lonely);
   const auto preferred =
       tonelake::testing::runProgram({{lonely, "packs"}, {"LANGUAGE=de"}, "", ""});
