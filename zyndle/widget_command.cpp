@@ -50,7 +50,7 @@ Examples:
 struct WidgetOptions {
   std::string kind;
   std::optional<std::string> family;
-  std::string format = "svg";
+  std::optional<std::string> format;
   std::optional<std::string> scale;
   std::string file = "-";
 };
@@ -120,6 +120,15 @@ const SceneFormat* findFormat(std::string_view name, std::span<const SceneFormat
   return found == known.end() ? nullptr : &*found;
 }
 
+// As it is asked for; else what the file is named for: today.png is to be a PNG.
+std::string formatName(const WidgetOptions& options) {
+  if (options.format) return *options.format;
+  const std::string_view file = options.file;
+  const std::string_view ending = file.substr(std::min(file.rfind('.'), file.size() - 1) + 1);
+  const SceneFormat* format = findFormat(ending, formats);
+  return format == nullptr ? "svg" : format->name;
+}
+
 // How the scene is written here; nullptr where another program has to do it.
 const SceneFormat* readFormat(const std::string& name, std::span<const SceneFormat> more) {
   const SceneFormat* format = findFormat(name, formats);
@@ -134,14 +143,15 @@ void showWidget(const WidgetOptions& options, Arguments arguments,
                 std::span<const SceneFormat> more) {
   const WidgetDescription& widget = readWidget(options.kind);
   const WidgetFamily family = readFamily(options, widget);
-  const SceneFormat* const format = readFormat(options.format, more);
-  if (options.scale && options.format != "png") {
-    refuse(translated("--scale is for --format png; other pictures have no pixels"));
-  }
-  const double scale = options.scale ? readScale(*options.scale) : standardScale;
   if (options.file.empty()) {
     refuse(translated("{} needs the name of a file, or - for standard output", "-o"));
   }
+  const std::string name = formatName(options);
+  const SceneFormat* const format = readFormat(name, more);
+  if (options.scale && name != "png") {
+    refuse(translated("--scale is for --format png; other pictures have no pixels"));
+  }
+  const double scale = options.scale ? readScale(*options.scale) : standardScale;
   if (format == nullptr) becomeCompanion("zyndle-picture", arguments);
   installHost(true);
   const todaychord::ViewSettings settings{
@@ -165,7 +175,9 @@ void addWidgetCommand(CLI::App& app, Action& action, Arguments arguments,
       .add_option("--family", options->family,
                   translated("Its size; else the first that it offers"))
       ->type_name("FAMILY");
-  command.add_option("--format", options->format, translated("svg, png, pdf or json; else svg"))
+  command
+      .add_option("--format", options->format,
+                  translated("svg, png, pdf or json; else as FILE ends, or svg"))
       ->type_name("FORMAT");
   command.add_option("--scale", options->scale, translated("Pixels a point, for png; else 2"))
       ->type_name("NUMBER");
