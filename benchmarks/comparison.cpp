@@ -1,9 +1,7 @@
-// comparison [ZYNDLE]: what everything costs on this machine, as a table in Markdown: in the
-// library, and as whole processes of the program ZYNDLE. Times vary with the machine and with what
-// else it does; the ratios, each of two things measured in this run, hold.
+// What everything in the library costs on this machine, as a table in Markdown. Times vary with the
+// machine and with what else it does; the ratios, each of two things measured in this run, hold.
 
 #include <cstdio>
-#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -18,7 +16,6 @@
 #include "Tonelake/foundation/text.h"
 #include "benchmarks/measure.h"
 #include "benchmarks/offered_chords.h"
-#include "benchmarks/process_cost.h"
 #include "tests/support/plain_chord_finder.h"
 #include "tests/support/plain_shape_checker.h"
 
@@ -26,7 +23,6 @@ namespace {
 
 using namespace tonelake;  // NOLINT(google-build-using-namespace)
 using benchmarks::measure;
-using benchmarks::measureProcess;
 using benchmarks::ProcessorClock;
 
 constexpr int runs = 21;
@@ -111,34 +107,12 @@ void compareDrawings() {
   printRow("the same as PNG, 480 pixels wide", png, times(png / scene, "the shapes"));
 }
 
-void compareProcesses(const std::string& zyndle) {
-  const auto nothing = measureProcess(runs, {"true"});
-  const auto picture = (std::filesystem::temp_directory_path() / "comparison.png").string();
-  const std::vector<std::vector<std::string>> calls = {
-      {"--version"},
-      {"today"},
-      {"voicings", "C/E"},
-      {"widget", "ZyndleChordWidget"},
-      {"widget", "ZyndleChordWidget", "-o", picture}};
-  std::printf("\n| whole process | time | beside `true` | memory |\n|---|---|---|---|\n");
-  for (const auto& call : calls) {
-    std::vector<std::string> arguments{zyndle};
-    arguments.insert(arguments.end(), call.begin(), call.end());
-    const auto cost = measureProcess(runs, arguments);
-    std::printf("| `zyndle %s%s` | %.1f ms | %.1f times | %.1f MB |\n", call.front().c_str(),
-                call.size() > 2 ? ", as PNG" : "", cost.time.median,
-                cost.time.median / nothing.time.median, cost.peakMemory);
-  }
-  std::filesystem::remove(picture);
-}
-
 }  // namespace
 
-int main(int argc, char** argv) {
+int main() {
   const auto chords = benchmarks::offeredChords();
   std::printf("| in the library | time | |\n|---|---|---|\n");
   compareSearches(chords);
   compareNames(chords);
   compareDrawings();
-  if (argc > 1) compareProcesses(argv[1]);
 }
