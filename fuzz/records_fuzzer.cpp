@@ -55,10 +55,9 @@ std::vector<std::string> seeds() {
   std::vector<std::string> seeds{
       R"({"rootNote":"F♯","chordType":"minor 7th","variant":1})",
       R"({"progression":"I-V-vi-IV","description":"home: --I--","styles":["Pop","R&B"]})",
-      R"([-0.5e-3,18446744073709551615,true,null,"\ud834\udd2a",{"a":[[]]}])",
-      "\"B♭♭\"",
+      R"([-0.5e-3,18446744073709551615,true,null,"\ud834\udd2a",{"a":[[]]}])", "\"B♭♭\"",
       projectFile("Tonelake/resources/chord_types.json")};
-return seeds;
+  return seeds;
 }
 
 }  // namespace fuzz

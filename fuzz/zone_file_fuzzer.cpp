@@ -14,9 +14,10 @@ using date::sys_seconds;
 
 template <typename Zone>
 void requireStretches(const Zone& zone) {
+  const sys_seconds end = sys_days(date::year(32000) / 1 / 1);  // of what a calendar asks for
   for (const int year : {-30000, 1, 1900, 1945, 2011, 2024, 2036, 2100, 30000}) {
     sys_seconds moment = sys_days(date::year(year) / 7 / 1);
-    for (int steps = 0; steps < 4 && moment < desktop::distantFuture; ++steps) {
+    for (int steps = 0; steps < 4 && moment < end; ++steps) {
       const desktop::OffsetPeriod period = zone.periodAt(moment);
       require(period.begin <= moment && moment < period.end, "a moment lies in its stretch");
       require(period.offset > -std::chrono::hours(27) && period.offset < std::chrono::hours(27),

@@ -32,12 +32,12 @@ done
 run_fuzzer() {
   local seconds=$1 name=$2 folder=$root/build/fuzz
   local program=$folder/fuzz/${name}_fuzzer corpus=$folder/corpus/$name seeds=$folder/seeds/$name
-  local log=$folder/$name.log dictionary=$root/fuzz/$name.dict options=()
+  local log=$folder/$name.log
   mkdir -p "$corpus" "$seeds" "$folder/findings"
   "$program" --seeds="$seeds"
-  [[ ! -f $dictionary ]] || options=(-dict="$dictionary")
   if ! "$program" -max_total_time="$seconds" -timeout=5 -max_len=4096 -print_final_stats=1 \
-    -artifact_prefix="$folder/findings/$name-" "${options[@]}" "$corpus" "$seeds" 2>"$log"; then
+    -dict="$root/fuzz/words.dict" -artifact_prefix="$folder/findings/$name-" \
+    "$corpus" "$seeds" 2>"$log"; then
     grep --extended-regexp --after-context=12 \
       '^(Programming error|==[0-9]+== ?ERROR|ALARM|terminate)|runtime error' "$log" >&2 || true
     say "$name: FOUND SOMETHING, see $log; $(grep --only-matching 'Test unit written to .*' "$log")"
