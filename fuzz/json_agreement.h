@@ -35,7 +35,7 @@ auto decoded(const json::Value& document, Decode decode)
 /// compared because records may count as equal for less than all they hold. Returns the record.
 template <typename Decode, typename Encode>
 auto requireAgreement(const json::Value& document, Decode decode, Encode encode) {
-  const auto record = decoded(document, decode);
+  auto record = decoded(document, decode);
   if (record) {
     const std::string text = json::write(encode(*record));
     const json::Value again = json::parse(text);

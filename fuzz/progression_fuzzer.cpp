@@ -61,7 +61,7 @@ void examine(std::string_view input) {
 }
 
 std::vector<std::string> seeds() {
-  std::vector<std::string> seeds{"\1\1bVII-#iv-♭♭III", "\2\2V7-abc-IX- ♯V ", "\13\0----I----"};
+  std::vector<std::string> seeds{"\1\1bVII-#iv-♭♭III", "\2\2V7-abc-IX- ♯V ", "\13\4----I----"};
   char root = 0;
   for (const char* type : {"major", "minor"}) {
     for (const auto& row : ChordProgressions::getChordProgressionsDataForChordType(type)) {
