@@ -6,7 +6,8 @@ set -euo pipefail
 source "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/set_up.sh"
 
 "$root/tools/tidy.sh"
-(cd "$root" && shellcheck --external-sources zyndle.sh test.sh tools/*.sh tests/set_up/*.sh .ci/run)
+(cd "$root" && shellcheck --external-sources zyndle.sh test.sh tools/*.sh tests/*/*.sh \
+  zyndle/completions/*.bash .ci/run)
 for preset in asan tsan; do
   test_preset "$preset"
 done
