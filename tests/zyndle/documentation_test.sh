@@ -36,7 +36,7 @@ done <<'END'
 pa|packs,pack,patterns
 --|--help,--version,--lang
 --lang de settings |list,get,set,delete
---lang |en,de,es,fr,ja
+--lang d|de
 reminders schedule --|--help,--month-offset,--category
 today --category |beginner,advanced,jazz
 chord C --tuning half|half step down
