@@ -48,7 +48,7 @@ jam C --style Bos|Bossa Nova
 jam C --bass Bos|Bossa Bass
 jam C --drums n|none
 patterns Bos|Bossa Nova,Bossa Bass,Bossa Nova Sticks
-widget |chord,launcher,recent,collections
+widget l|launcher
 widget recent --family |extraLargePortrait
 settings set left_handed |true,false
 settings get t|todayChordCategory
