@@ -12,10 +12,10 @@
 
 #include "Desktop/sqlite_settings_store.h"
 #include "Desktop/write_behind_store.h"
-#include "Tonelake/chords/chord_data_manager.h"
 #include "Tonelake/fingering/chord_engine.h"
 #include "benchmarks/allocation_counter.h"
 #include "benchmarks/measure.h"
+#include "benchmarks/offered_chords.h"
 #include "tests/support/plain_shape_checker.h"
 
 namespace {
@@ -31,10 +31,9 @@ struct OfferedChord {
 
 std::vector<OfferedChord> offeredChords() {
   std::vector<OfferedChord> chords;
-  for (const Note root : ChordDataManager::shared().allRootNotes()) {
-    for (const std::string& type : chordTypes()) {
-      chords.push_back({std::string(root.rawValue()), Chords::getChordData(type)->notes});
-    }
+  for (const Chord& chord : benchmarks::offeredChords()) {
+    chords.push_back(
+        {std::string(chord.rootNote.rawValue()), Chords::getChordData(chord.chordType)->notes});
   }
   return chords;
 }

@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "Tonelake/chords/chord_data_manager.h"
 #include "Tonelake/fingering/chord_engine.h"
 #include "Tonelake/fingering/voicings.h"
 #include "benchmarks/allocation_counter.h"
 #include "benchmarks/measure.h"
+#include "benchmarks/offered_chords.h"
 
 namespace {
 
@@ -18,14 +18,6 @@ using namespace tonelake;  // NOLINT(google-build-using-namespace)
 using benchmarks::measure;
 using benchmarks::ProcessorClock;
 using benchmarks::Timing;
-
-std::vector<Chord> offeredChords() {
-  std::vector<Chord> chords;
-  for (const Note root : ChordDataManager::shared().allRootNotes()) {
-    for (const std::string& type : chordTypes()) chords.push_back({root, type, 0});
-  }
-  return chords;
-}
 
 struct Result {
   Timing timing;
@@ -59,7 +51,7 @@ void print(const char* what, const Result& result, std::size_t chords) {
 }  // namespace
 
 int main() {
-  const auto chords = offeredChords();
+  const auto chords = benchmarks::offeredChords();
   const Result generator = run(chords, [](const Chord& chord) {
     const std::string root(chord.rootNote.rawValue());
     const WholeNumbers& intervals = Chords::getChordData(chord.chordType)->notes;

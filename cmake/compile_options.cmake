@@ -7,6 +7,12 @@ target_compile_options(zyndle_compile_options INTERFACE
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   target_compile_options(zyndle_compile_options INTERFACE -Wno-restrict)
 endif()
+# The objects go into static and into shared libraries. A shared one shows only what a header marks
+# with TONELAKE_API, and its functions call each other without asking who else has one of the name.
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+target_compile_options(zyndle_compile_options INTERFACE -fno-semantic-interposition)
 target_include_directories(zyndle_compile_options INTERFACE ${PROJECT_SOURCE_DIR})
 
 if(ZYNDLE_SANITIZE)

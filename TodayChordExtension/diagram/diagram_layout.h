@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "TodayChordExtension/diagram/chord_view.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
@@ -66,9 +67,9 @@ struct DiagramLayout {
 };
 
 /// Pixels per design unit in a view `width` wide, never below 0.5.
-double diagramScale(double width);
+TONELAKE_API double diagramScale(double width);
 
 /// The layout of a view `width` wide. Lists that do not hold six values place what they have.
-DiagramLayout layOutDiagram(const ChordView& view, double width);
+TONELAKE_API DiagramLayout layOutDiagram(const ChordView& view, double width);
 
 }  // namespace todaychord

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "TodayChordExtension/diagram/scene.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
@@ -11,13 +12,13 @@ namespace todaychord {
 inline constexpr double iconGrid = 24;
 
 /// Whether the program has an icon of this name: "magnifyingglass".
-bool hasIcon(std::string_view name);
+TONELAKE_API bool hasIcon(std::string_view name);
 
 /// The names of all icons.
-std::vector<std::string_view> iconNames();
+TONELAKE_API std::vector<std::string_view> iconNames();
 
 /// The icon that `image` names, as shapes in its tint: as large as its frame allows, in the middle
 /// of it. Nothing when the name is none of an icon.
-SceneItems drawIcon(const ImageItem& image);
+TONELAKE_API SceneItems drawIcon(const ImageItem& image);
 
 }  // namespace todaychord

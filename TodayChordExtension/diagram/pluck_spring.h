@@ -1,9 +1,11 @@
 #pragma once
 
+#include "Tonelake/foundation/api.h"
+
 namespace todaychord {
 
 /// The damped spring that a plucked string swings on, released from rest.
-struct PluckSpring {
+struct TONELAKE_API PluckSpring {
   double mass = 1;
   double stiffness = 0;
   double damping = 4;
@@ -16,6 +18,6 @@ struct PluckSpring {
 inline constexpr double leastPluck = 4;
 
 /// The spring of string 1 (the highest and stiffest) to 6.
-PluckSpring pluckSpring(int stringNumber);
+TONELAKE_API PluckSpring pluckSpring(int stringNumber);
 
 }  // namespace todaychord

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "TodayChordExtension/diagram/scene.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
@@ -12,6 +13,6 @@ struct Placement {
 };
 
 /// A copy of `items` elsewhere and in another size, fonts and strokes included.
-SceneItems placed(const SceneItems& items, const Placement& placement);
+TONELAKE_API SceneItems placed(const SceneItems& items, const Placement& placement);
 
 }  // namespace todaychord

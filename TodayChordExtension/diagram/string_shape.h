@@ -1,11 +1,12 @@
 #pragma once
 
 #include "TodayChordExtension/diagram/geometry.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
 /// A string that bows towards where it is plucked; straight when it is not displaced.
-struct StringShape {
+struct TONELAKE_API StringShape {
   double displacement = 0;  ///< sideways, design units
   double touchY = 0.5;      ///< where it is touched: 0 the top, 1 the bottom
 

@@ -3,11 +3,12 @@
 #include "TodayChordExtension/widgets/timeline.h"
 #include "TodayChordExtension/widgets/widget_entries.h"
 #include "TodayChordExtension/widgets/widget_sources.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
 /// The entries of the chord-of-the-day widget: one for now, until the next local midnight.
-class ChordProvider final : public TimelineProvider<ChordEntry> {
+class TONELAKE_API ChordProvider final : public TimelineProvider<ChordEntry> {
  public:
   explicit ChordProvider(WidgetSources sources = WidgetSources::ofProcess());
 

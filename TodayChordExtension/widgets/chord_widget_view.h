@@ -4,12 +4,14 @@
 #include "TodayChordExtension/widgets/widget_entries.h"
 #include "TodayChordExtension/widgets/widget_family.h"
 #include "TodayChordExtension/widgets/widget_view_settings.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
 /// The chord of the day as a family shows it; families other than those with a layout of their own
 /// are drawn as the small one, in its size. The whole widget leads to the chord. Without a chord,
 /// and for one that cannot be shown, an icon stands in.
-Scene drawChordWidget(const ChordEntry& entry, WidgetFamily family, const ViewSettings& settings);
+TONELAKE_API Scene drawChordWidget(const ChordEntry& entry, WidgetFamily family,
+                                   const ViewSettings& settings);
 
 }  // namespace todaychord

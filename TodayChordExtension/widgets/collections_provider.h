@@ -3,12 +3,13 @@
 #include "TodayChordExtension/widgets/timeline.h"
 #include "TodayChordExtension/widgets/widget_entries.h"
 #include "TodayChordExtension/widgets/widget_sources.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
 /// The entries of the collections widget: one for now, until the app asks for another. The user's
 /// own collections come first; curated packs fill up to seven.
-class CollectionsProvider final : public TimelineProvider<CollectionsEntry> {
+class TONELAKE_API CollectionsProvider final : public TimelineProvider<CollectionsEntry> {
  public:
   explicit CollectionsProvider(WidgetSources sources = WidgetSources::ofProcess());
 

@@ -6,11 +6,12 @@
 
 #include "TodayChordExtension/diagram/scene.h"
 #include "TodayChordExtension/widgets/widget_entries.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
 /// The picture of a collection.
-struct WidgetCollectionArtwork {
+struct TONELAKE_API WidgetCollectionArtwork {
   std::optional<std::string> imageName;
   std::optional<std::string> systemImageName;
   Color accentColor;  ///< of icons
@@ -29,11 +30,11 @@ struct CollectionGrid {
   std::vector<WidgetCollectionItem> collections;
 };
 
-SceneItems draw(const WidgetCollectionCard& card, const Rectangle& frame);
-SceneItems draw(const CollectionGrid& grid, const Rectangle& frame);
+TONELAKE_API SceneItems draw(const WidgetCollectionCard& card, const Rectangle& frame);
+TONELAKE_API SceneItems draw(const CollectionGrid& grid, const Rectangle& frame);
 
 /// The collections in their only family, extra-large portrait; as many as the entry's capacity,
 /// then the row that leads to all of them.
-Scene drawCollectionsWidget(const CollectionsEntry& entry);
+TONELAKE_API Scene drawCollectionsWidget(const CollectionsEntry& entry);
 
 }  // namespace todaychord

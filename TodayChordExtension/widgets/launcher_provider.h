@@ -3,11 +3,12 @@
 #include "TodayChordExtension/widgets/timeline.h"
 #include "TodayChordExtension/widgets/widget_entries.h"
 #include "TodayChordExtension/widgets/widget_sources.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
 /// The entries of the launcher: one for now, until the next local midnight.
-class LauncherProvider final : public TimelineProvider<LauncherEntry> {
+class TONELAKE_API LauncherProvider final : public TimelineProvider<LauncherEntry> {
  public:
   explicit LauncherProvider(WidgetSources sources = WidgetSources::ofProcess());
 

@@ -6,6 +6,7 @@
 #include "TodayChordExtension/diagram/scene.h"
 #include "TodayChordExtension/widgets/widget_entries.h"
 #include "TodayChordExtension/widgets/widget_view_settings.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
@@ -24,11 +25,11 @@ struct TodayChordLauncherCard {
   ChordCategory category = ChordCategory::beginner;
 };
 
-SceneItems draw(const ToolLauncherCard& card, const Rectangle& frame);
-SceneItems draw(const TodayChordLauncherCard& card, const Rectangle& frame,
-                const ViewSettings& settings);
+TONELAKE_API SceneItems draw(const ToolLauncherCard& card, const Rectangle& frame);
+TONELAKE_API SceneItems draw(const TodayChordLauncherCard& card, const Rectangle& frame,
+                             const ViewSettings& settings);
 
 /// The launcher in its only family, extra-large portrait: the chord of the day, then the tools.
-Scene drawLauncherWidget(const LauncherEntry& entry, const ViewSettings& settings);
+TONELAKE_API Scene drawLauncherWidget(const LauncherEntry& entry, const ViewSettings& settings);
 
 }  // namespace todaychord

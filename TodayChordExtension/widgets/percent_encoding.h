@@ -4,18 +4,20 @@
 #include <string>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
+
 namespace todaychord {
 
 // Texts inside links, as RFC 3986 has them.
 
 /// A letter or digit of ASCII, "-", ".", "_" or "~": what a link may hold as it stands.
-bool isUnreserved(char character) noexcept;
+TONELAKE_API bool isUnreserved(char character) noexcept;
 
 /// Every other byte as "%" and two capital digits: "F♯ +" gives "F%E2%99%AF%20%2B".
-std::string percentEncode(std::string_view text);
+TONELAKE_API std::string percentEncode(std::string_view text);
 
 /// The text behind an encoded one. A "+" is a plus, not a blank. Nothing where a "%" is not
 /// followed by two hexadecimal digits or the bytes are no UTF-8.
-std::optional<std::string> percentDecode(std::string_view text);
+TONELAKE_API std::optional<std::string> percentDecode(std::string_view text);
 
 }  // namespace todaychord

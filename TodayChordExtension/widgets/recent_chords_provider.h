@@ -3,13 +3,14 @@
 #include "TodayChordExtension/widgets/timeline.h"
 #include "TodayChordExtension/widgets/widget_entries.h"
 #include "TodayChordExtension/widgets/widget_sources.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
 /// The entries of the recent-chords widget: one for now, until the app asks for another. The
 /// chords are the first eight different ones that the user viewed; where there are fewer, common
 /// chords and then those for beginners fill up.
-class RecentChordsProvider final : public TimelineProvider<RecentChordsEntry> {
+class TONELAKE_API RecentChordsProvider final : public TimelineProvider<RecentChordsEntry> {
  public:
   explicit RecentChordsProvider(WidgetSources sources = WidgetSources::ofProcess());
 

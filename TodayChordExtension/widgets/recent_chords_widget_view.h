@@ -3,6 +3,7 @@
 #include "TodayChordExtension/diagram/scene.h"
 #include "TodayChordExtension/widgets/widget_entries.h"
 #include "TodayChordExtension/widgets/widget_view_settings.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
@@ -11,10 +12,11 @@ struct WidgetSmallChordCell {
   Chord chord;
 };
 
-SceneItems draw(const WidgetSmallChordCell& cell, const Rectangle& frame,
-                const ViewSettings& settings);
+TONELAKE_API SceneItems draw(const WidgetSmallChordCell& cell, const Rectangle& frame,
+                             const ViewSettings& settings);
 
 /// The recent chords in their only family, extra-large portrait; as many as the entry's capacity.
-Scene drawRecentChordsWidget(const RecentChordsEntry& entry, const ViewSettings& settings);
+TONELAKE_API Scene drawRecentChordsWidget(const RecentChordsEntry& entry,
+                                          const ViewSettings& settings);
 
 }  // namespace todaychord

@@ -7,6 +7,7 @@
 
 #include "TodayChordExtension/widgets/widget_chord_collection.h"
 #include "Tonelake/chords/chord.h"
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/platform/settings_store.h"
 #include "Tonelake/today/chord_category.h"
 
@@ -24,7 +25,7 @@ inline constexpr std::size_t largestSharedData = std::size_t{1} << 20U;
 
 /// Reads the store that app and widgets share. Whatever the store holds, reading never fails: a
 /// value that is missing, damaged or of the wrong type gives its default.
-class SharedSettings {
+class TONELAKE_API SharedSettings {
  public:
   explicit SharedSettings(std::shared_ptr<const tonelake::SettingsStore> store);
 

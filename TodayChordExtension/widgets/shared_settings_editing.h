@@ -5,6 +5,7 @@
 
 #include "TodayChordExtension/widgets/widget_chord_collection.h"
 #include "Tonelake/chords/chord.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
@@ -19,10 +20,11 @@ struct SharedDataEdit {
 // added stay. A result that no widget would read for its size is a problem, too.
 
 /// "recentlyViewedChords" after `chord` has been viewed: it leads, and leads only.
-SharedDataEdit addRecentlyViewedChord(const std::optional<std::string>& data, const Chord& chord);
+TONELAKE_API SharedDataEdit addRecentlyViewedChord(const std::optional<std::string>& data,
+                                                   const Chord& chord);
 
 /// "chordCollections" with one more collection at its end.
-SharedDataEdit addChordCollection(const std::optional<std::string>& data,
-                                  const WidgetChordCollection& collection);
+TONELAKE_API SharedDataEdit addChordCollection(const std::optional<std::string>& data,
+                                               const WidgetChordCollection& collection);
 
 }  // namespace todaychord

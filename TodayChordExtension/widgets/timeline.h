@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/platform/instant.h"
 
 namespace todaychord {
@@ -42,7 +43,7 @@ struct Timeline {
 /// Where a host gets a widget's entries from. Keeps no state between requests; any thread may ask.
 /// Completions are called once, on the asking thread, before the request returns.
 template <typename Entry>
-class TimelineProvider {
+class TONELAKE_API TimelineProvider {
  public:
   virtual ~TimelineProvider() = default;
 

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "TodayChordExtension/widgets/widget_family.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
@@ -24,10 +25,10 @@ inline constexpr std::string_view collectionsWidgetKind = "ZyndleExtraLargeColle
 namespace TodayChordBundle {
 
 /// Chord of the day, launcher, recent chords, collections.
-std::span<const WidgetDescription> widgets() noexcept;
+TONELAKE_API std::span<const WidgetDescription> widgets() noexcept;
 
 /// The widget of this kind; nullptr for an unknown one.
-const WidgetDescription* findWidget(std::string_view kind) noexcept;
+TONELAKE_API const WidgetDescription* findWidget(std::string_view kind) noexcept;
 
 }  // namespace TodayChordBundle
 }  // namespace todaychord

@@ -5,10 +5,12 @@
 #include <span>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
+
 namespace todaychord {
 
 /// The size and place in which a host shows a widget.
-class WidgetFamily {
+class TONELAKE_API WidgetFamily {
  public:
   enum Case : std::uint8_t {
     small,

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "Tonelake/chords/chord.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
@@ -16,15 +17,15 @@ using tonelake::Chord;
 
 /// "zyndle://widget/chord?root=F%E2%99%AF&type=minor%207th&variant=2"; "zyndle://widget/home"
 /// without a chord or for a type that is no UTF-8.
-std::string chordLink(const std::optional<Chord>& chord);
+TONELAKE_API std::string chordLink(const std::optional<Chord>& chord);
 
 /// "zyndle://widget/collection?title=Warm-up"; "zyndle://widget/collections" for a title that is
 /// no UTF-8.
-std::string collectionLink(std::string_view title);
+TONELAKE_API std::string collectionLink(std::string_view title);
 
 /// "zyndle://widget/tuner" for "tuner"; "/" for a name with characters other than the unreserved
 /// ones.
-std::string namedDestination(std::string_view name);
+TONELAKE_API std::string namedDestination(std::string_view name);
 
 // The destinations without a place in a table of their own.
 inline constexpr std::string_view homeDestination = "home";
@@ -44,6 +45,6 @@ using WidgetLink = std::variant<Chord, CollectionLink, NamedDestination>;
 /// What a link leads to, for hosts that open one: the reverse of the builders. Scheme and host may
 /// be in capitals, query items in any order, unknown ones are passed over, and of two with the
 /// same name the first counts. Nothing for any other text. The chord need not be showable.
-std::optional<WidgetLink> parseWidgetLink(std::string_view link);
+TONELAKE_API std::optional<WidgetLink> parseWidgetLink(std::string_view link);
 
 }  // namespace todaychord

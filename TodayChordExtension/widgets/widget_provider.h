@@ -7,6 +7,7 @@
 #include "TodayChordExtension/widgets/timeline.h"
 #include "TodayChordExtension/widgets/widget_entries.h"
 #include "TodayChordExtension/widgets/widget_sources.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
@@ -15,7 +16,7 @@ using WidgetEntry = std::variant<ChordEntry, LauncherEntry, RecentChordsEntry, C
 using WidgetProvider = TimelineProvider<WidgetEntry>;
 
 /// The provider of the widget of this kind; nullptr for an unknown kind.
-std::unique_ptr<const WidgetProvider> makeWidgetProvider(
+TONELAKE_API std::unique_ptr<const WidgetProvider> makeWidgetProvider(
     std::string_view kind, const WidgetSources& sources = WidgetSources::ofProcess());
 
 }  // namespace todaychord

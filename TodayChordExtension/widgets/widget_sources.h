@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/platform/calendar.h"
 #include "Tonelake/platform/settings_store.h"
 #include "Tonelake/today/today_chord_library.h"
@@ -9,7 +10,7 @@
 namespace todaychord {
 
 /// What the providers read. Neither calendar nor settings are null.
-struct WidgetSources {
+struct TONELAKE_API WidgetSources {
   /// The platform of the process.
   static WidgetSources ofProcess();
 

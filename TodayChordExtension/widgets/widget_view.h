@@ -4,10 +4,12 @@
 #include "TodayChordExtension/widgets/widget_family.h"
 #include "TodayChordExtension/widgets/widget_provider.h"
 #include "TodayChordExtension/widgets/widget_view_settings.h"
+#include "Tonelake/foundation/api.h"
 
 namespace todaychord {
 
 /// The entry of any widget as `family` shows it. Widgets that have one family are drawn in it.
-Scene drawWidget(const WidgetEntry& entry, WidgetFamily family, const ViewSettings& settings);
+TONELAKE_API Scene drawWidget(const WidgetEntry& entry, WidgetFamily family,
+                              const ViewSettings& settings);
 
 }  // namespace todaychord

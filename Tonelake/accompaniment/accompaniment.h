@@ -5,6 +5,7 @@
 
 #include "Tonelake/accompaniment/chord_shape.h"
 #include "Tonelake/accompaniment/performance.h"
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/patterns/arpeggio_sequence.h"
 
 namespace tonelake {
@@ -30,11 +31,13 @@ struct Accompaniment {
 ///
 /// C major and the arpeggio t d d d in quavers begin with C, G, C and E on the strings A, G, B and
 /// E at ticks 0, 240, 480 and 720. A pure function; any thread may call.
-Performance perform(const Accompaniment& accompaniment);
+TONELAKE_API Performance perform(const Accompaniment& accompaniment);
 
 /// Of the patterns linked to an arpeggio the busiest whose complexity is at most `complexity`, the
 /// simplest where all are busier; null when there is none.
-const BassPattern* chooseBass(const ArpeggioSequence& arpeggio, WholeNumber complexity);
-const DrumPattern* chooseDrums(const ArpeggioSequence& arpeggio, WholeNumber complexity);
+TONELAKE_API const BassPattern* chooseBass(const ArpeggioSequence& arpeggio,
+                                           WholeNumber complexity);
+TONELAKE_API const DrumPattern* chooseDrums(const ArpeggioSequence& arpeggio,
+                                            WholeNumber complexity);
 
 }  // namespace tonelake

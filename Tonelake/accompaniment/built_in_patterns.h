@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/patterns/arpeggio_sequence.h"
 
 namespace tonelake {
@@ -14,6 +15,6 @@ struct PatternLibrary {
 };
 
 /// Decoded when first asked for; kept until the process ends. Any thread may call.
-const PatternLibrary& builtInPatterns();
+TONELAKE_API const PatternLibrary& builtInPatterns();
 
 }  // namespace tonelake

@@ -2,6 +2,7 @@
 
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/fingering/chord_position.h"
+#include "Tonelake/foundation/api.h"
 
 namespace tonelake {
 
@@ -21,6 +22,6 @@ struct ChordPillars {
 };
 
 /// All three are tones of the chord; of an unknown chord type all are the root.
-ChordPillars findPillars(const Chord& chord);
+TONELAKE_API ChordPillars findPillars(const Chord& chord);
 
 }  // namespace tonelake

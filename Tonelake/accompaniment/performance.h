@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/whole_number.h"
 #include "Tonelake/patterns/pattern_enumerations.h"
 
@@ -12,10 +13,10 @@ namespace tonelake {
 inline constexpr WholeNumber ticksPerCrotchet = 480;
 
 /// 1920 for a semibreve to 60 for a demisemiquaver.
-WholeNumber ticksOf(NoteDuration duration) noexcept;
+TONELAKE_API WholeNumber ticksOf(NoteDuration duration) noexcept;
 
 /// The ticks of one bar: 1440 in 3/4, 1920 in 4/4.
-WholeNumber ticksOfBar(TimeSignature timeSignature) noexcept;
+TONELAKE_API WholeNumber ticksOfBar(TimeSignature timeSignature) noexcept;
 
 /// One sounding note of the guitar or the bass.
 struct NoteEvent {

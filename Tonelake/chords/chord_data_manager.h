@@ -12,13 +12,14 @@
 #include "Tonelake/chords/chord_data.h"
 #include "Tonelake/chords/chord_finder.h"
 #include "Tonelake/chords/priority_list.h"
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/platform/diagnostics.h"
 
 namespace tonelake {
 
 /// The chord-type dictionary and what is derived from it. Nothing changes after construction, so
 /// any thread may read.
-class ChordDataManager {
+class TONELAKE_API ChordDataManager {
  public:
   using ChordDictionary = std::unordered_map<std::string, Chord>;
 
@@ -73,13 +74,13 @@ class ChordDataManager {
 };
 
 /// ChordDataManager::shared().chordTypes().
-const std::vector<std::string>& chordTypes();
+TONELAKE_API const std::vector<std::string>& chordTypes();
 
 namespace Chords {
 
-const std::map<std::string, ChordData, std::less<>>& getChordData();
-const ChordData* getChordData(std::string_view forChordType);
-const ChordDataManager::ChordDictionary& getChordDictionary();
+TONELAKE_API const std::map<std::string, ChordData, std::less<>>& getChordData();
+TONELAKE_API const ChordData* getChordData(std::string_view forChordType);
+TONELAKE_API const ChordDataManager::ChordDictionary& getChordDictionary();
 
 }  // namespace Chords
 }  // namespace tonelake

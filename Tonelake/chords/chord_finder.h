@@ -8,13 +8,14 @@
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/chords/chord_data.h"
 #include "Tonelake/chords/note_list.h"
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/theory/pitch_class_set.h"
 
 namespace tonelake {
 
 /// Finds chords by their notes. Compares pitches, never spellings: each chord's set is made once,
 /// and a search visits every chord. Any thread may search.
-class ChordFinder {
+class TONELAKE_API ChordFinder {
  public:
   ChordFinder() = default;
   /// Over every type on every root. `types` is in display order.

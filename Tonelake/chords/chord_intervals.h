@@ -4,15 +4,16 @@
 #include <vector>
 
 #include "Tonelake/chords/chord.h"
+#include "Tonelake/foundation/api.h"
 
 namespace tonelake::Chords {
 
 /// The interval names of the chord's tones, beginning with the bass: C major over E gives "Major
 /// Third", "Perfect Fifth", "Unison". The variant counts modulo the number of tones. Empty for an
 /// unknown chord type.
-std::vector<std::string> getIntervalsOfChord(const Chord& chord);
+TONELAKE_API std::vector<std::string> getIntervalsOfChord(const Chord& chord);
 
 /// The same with "Root" in place of "Unison".
-std::vector<std::string> getIntervalsOfChordForToday(const Chord& chord);
+TONELAKE_API std::vector<std::string> getIntervalsOfChordForToday(const Chord& chord);
 
 }  // namespace tonelake::Chords

@@ -5,11 +5,12 @@
 
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/chords/chord_data.h"
+#include "Tonelake/foundation/api.h"
 
 namespace tonelake {
 
 /// Everything a chord is named after: its type, its spelled tones and its variant.
-struct NamedChord {
+struct TONELAKE_API NamedChord {
   NamedChord(const Chord& chord, const ChordData& chordData);
 
   Note root;
@@ -19,9 +20,9 @@ struct NamedChord {
 };
 
 // The naming rules on a given dictionary entry; Chords below looks the entry up.
-std::string titleOf(const NamedChord& chord, WholeNumber maxChars);
-std::string shortestTitleOf(const NamedChord& chord);
-std::vector<std::string> alternateTitlesOf(const NamedChord& chord);
+TONELAKE_API std::string titleOf(const NamedChord& chord, WholeNumber maxChars);
+TONELAKE_API std::string shortestTitleOf(const NamedChord& chord);
+TONELAKE_API std::vector<std::string> alternateTitlesOf(const NamedChord& chord);
 
 namespace Chords {
 
@@ -33,14 +34,15 @@ inline constexpr WholeNumber standardTitleLength = 12;
 
 /// "C major", "C9", "C major/E"; a type name of more than `maxChars` characters gives way to the
 /// short one, written against the root: "Bmin7(♭5)".
-std::string getTitleForChord(const Chord& chord, WholeNumber maxChars = standardTitleLength);
+TONELAKE_API std::string getTitleForChord(const Chord& chord,
+                                          WholeNumber maxChars = standardTitleLength);
 
 /// The shortest of all names: "C", "Cm", "CM7", "Co", "C/E".
-std::string getShortestTitleForChord(const Chord& chord);
+TONELAKE_API std::string getShortestTitleForChord(const Chord& chord);
 
 /// Further names, each once: "Cmajor", "Cmaj", "C major", "CM"; with a root in ASCII as well
 /// where it has a sign. A variant that the chord does not have adds no bass.
-std::vector<std::string> getAlternateTitlesForChord(const Chord& chord);
+TONELAKE_API std::vector<std::string> getAlternateTitlesForChord(const Chord& chord);
 
 }  // namespace Chords
 }  // namespace tonelake

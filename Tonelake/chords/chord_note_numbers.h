@@ -4,6 +4,7 @@
 #include <span>
 
 #include "Tonelake/chords/chord.h"
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/whole_number.h"
 
 namespace tonelake::Chords {
@@ -11,13 +12,13 @@ namespace tonelake::Chords {
 /// MIDI numbers of the chord's first fingering in standard tuning, lowest string first, an octave
 /// below the sounding pitch of a guitar (the open E is 28), kept on purpose. A chord without a
 /// fingering is a programming error.
-WholeNumbers getNoteNumbersForChord(const Chord& chord);
+TONELAKE_API WholeNumbers getNoteNumbersForChord(const Chord& chord);
 
 /// The same, but nothing for a chord without a fingering: for chords that come from outside.
-std::optional<WholeNumbers> findNoteNumbersForChord(const Chord& chord);
+TONELAKE_API std::optional<WholeNumbers> findNoteNumbersForChord(const Chord& chord);
 
 /// MIDI numbers of a piano voicing, strictly ascending: `formula` holds semitones above the root
 /// (E is 40, C is 48), and a tone that would not lie above the one before it is lifted by octaves.
-WholeNumbers getChordPianoNotes(Note root, std::span<const WholeNumber> formula);
+TONELAKE_API WholeNumbers getChordPianoNotes(Note root, std::span<const WholeNumber> formula);
 
 }  // namespace tonelake::Chords

@@ -7,12 +7,13 @@
 #include <string>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/platform/string_table.h"
 
 namespace tonelake {
 
 /// Which chord tone is in the bass, counted like Chord::variant.
-class Inversion {
+class TONELAKE_API Inversion {
  public:
   enum Case : std::uint8_t {
     rootPosition,

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/theory/pitch_class_set.h"
 
 namespace tonelake {
@@ -17,6 +18,6 @@ struct NoteList {
 
 /// Reads note names with commas between them. White space around a name and its case do not
 /// matter, "#" is "♯", and a letter with "b" is a flat: "eb" is E♭, "bb" B♭.
-NoteList readNoteList(std::string_view notes);
+TONELAKE_API NoteList readNoteList(std::string_view notes);
 
 }  // namespace tonelake

@@ -3,6 +3,7 @@
 #include <span>
 
 #include "Tonelake/chords/chord.h"
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/theory/frets.h"
 
 namespace tonelake {
@@ -15,9 +16,9 @@ struct PriorityEntry {
 
 /// Preferred fingerings of 31 chords. Roots are spelled with sharps, variants are 0: E♭ major has
 /// no entry, D♯ major has.
-std::span<const PriorityEntry> priorityList();
+TONELAKE_API std::span<const PriorityEntry> priorityList();
 
 /// The chord's entry, or an empty list.
-std::span<const Frets> preferredFingerings(const Chord& chord);
+TONELAKE_API std::span<const Frets> preferredFingerings(const Chord& chord);
 
 }  // namespace tonelake

@@ -5,10 +5,12 @@
 #include <span>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
+
 namespace tonelake {
 
 /// The theme of a curated chord list. Not every theme has a list yet (see curatedChordLists).
-class ChordListCategory {
+class TONELAKE_API ChordListCategory {
  public:
   enum Case : std::uint8_t {
     commonChords,

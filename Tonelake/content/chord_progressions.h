@@ -6,6 +6,7 @@
 
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/content/chord_progression.h"
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/platform/string_table.h"
 
 // Progressions in Roman numerals and the chords they are in a key. A key is a chord, of which only
@@ -15,24 +16,27 @@ namespace tonelake::ChordProgressions {
 
 /// The catalogue for keys of a type: 18 progressions for "major", 14 for "minor", none for any
 /// other text. Descriptions are in the locale of the moment.
-std::vector<ChordProgression> getChordProgressionsDataForChordType(std::string_view chordType);
-std::vector<ChordProgression> getChordProgressionsDataForChordType(std::string_view chordType,
-                                                                   const StringTable& strings);
+TONELAKE_API std::vector<ChordProgression> getChordProgressionsDataForChordType(
+    std::string_view chordType);
+TONELAKE_API std::vector<ChordProgression> getChordProgressionsDataForChordType(
+    std::string_view chordType, const StringTable& strings);
 
 /// The chords of a progression in the key of `chord`: "I-V-vi-IV" in C major gives C major, G
 /// major, A minor, F major. A numeral may follow signs ("♭VII", "bVII", "#iv"). A token that
 /// names no note is left out: "V7" above C, "abc".
-std::vector<Chord> getChordsForChordProgression(const Chord& chord, std::string_view progression);
+TONELAKE_API std::vector<Chord> getChordsForChordProgression(const Chord& chord,
+                                                             std::string_view progression);
 
 /// The chords that belong to a key: I, IV, V, vi, ii and iii, or i, III, iv, V and VI when the
 /// key's type is exactly "minor".
-std::vector<Chord> getRelatedChordsForKeySignature(const Chord& keySignature);
+TONELAKE_API std::vector<Chord> getRelatedChordsForKeySignature(const Chord& keySignature);
 
 /// The description with each marker replaced by the chord that it is in the key: in C major
 /// "home (--I--)" becomes "home (C major)". A marker that names no chord stays.
-std::string getDescription(const ChordProgression& progression, const Chord& chord);
+TONELAKE_API std::string getDescription(const ChordProgression& progression, const Chord& chord);
 
 /// The names of the progression's chords: {"G major", "D major", "E minor", "C major"}.
-std::vector<std::string> getChordTitles(const ChordProgression& progression, const Chord& chord);
+TONELAKE_API std::vector<std::string> getChordTitles(const ChordProgression& progression,
+                                                     const Chord& chord);
 
 }  // namespace tonelake::ChordProgressions

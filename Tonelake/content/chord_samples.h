@@ -4,14 +4,15 @@
 #include <vector>
 
 #include "Tonelake/chords/chord.h"
+#include "Tonelake/foundation/api.h"
 
 namespace tonelake::Chords {
 
 /// Two chords to show what a chord is: C major and C minor.
-std::vector<Chord> getChordSampleSet();
+TONELAKE_API std::vector<Chord> getChordSampleSet();
 
 /// The chords of a type on the seven natural roots, C D E F G A B. Only "major" and "minor" have
 /// samples; any other text, "Major" included, gives an empty list.
-std::vector<Chord> getChordSampleSetForChordType(std::string_view chordType);
+TONELAKE_API std::vector<Chord> getChordSampleSetForChordType(std::string_view chordType);
 
 }  // namespace tonelake::Chords

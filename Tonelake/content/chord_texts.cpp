@@ -1,12 +1,16 @@
 #include "Tonelake/content/chord_texts.h"
 
+#include "Tonelake/content/chord_text_tables.h"
 #include "Tonelake/platform/platform.h"
 
 namespace tonelake {
 namespace {
 
 ChordTexts inThisLanguage(std::span<const ChordTextRow> rows) {
-  return localizedChordTexts(rows, *processPlatform().strings);
+  const auto strings = processPlatform().strings;
+  ChordTexts texts;
+  for (const ChordTextRow& row : rows) texts.emplace(row.chordType, strings->localized(row.text));
+  return texts;
 }
 
 }  // namespace
@@ -28,12 +32,6 @@ const ChordTexts& chordDescriptionData() {
 
 const ChordTexts& jazzChordDescriptionData() {
   static const ChordTexts texts = inThisLanguage(jazzChordDescriptionRows());
-  return texts;
-}
-
-ChordTexts localizedChordTexts(std::span<const ChordTextRow> rows, const StringTable& strings) {
-  ChordTexts texts;
-  for (const ChordTextRow& row : rows) texts.emplace(row.chordType, strings.localized(row.text));
   return texts;
 }
 

@@ -2,11 +2,9 @@
 
 #include <functional>
 #include <map>
-#include <span>
 #include <string>
 
-#include "Tonelake/content/chord_text_tables.h"
-#include "Tonelake/platform/string_table.h"
+#include "Tonelake/foundation/api.h"
 
 namespace tonelake {
 
@@ -27,18 +25,15 @@ using ChordTexts = std::map<std::string, std::string, std::less<>>;
 //   6  the eleventh above a ninth
 
 /// Four adjectives for each of the 49 chord types: "mellow, cool, soulful, relaxed".
-const ChordTexts& chordCharacterData();
+TONELAKE_API const ChordTexts& chordCharacterData();
 
 /// Three or four genres for each of the 49 chord types: "Jazz, Soul, Funk, R&B".
-const ChordTexts& chordGenreData();
+TONELAKE_API const ChordTexts& chordGenreData();
 
 /// A paragraph on each of the 49 chord types: how it is built, how it sounds, where it is met.
-const ChordTexts& chordDescriptionData();
+TONELAKE_API const ChordTexts& chordDescriptionData();
 
 /// A paragraph on what jazz guitarists do with 27 of them.
-const ChordTexts& jazzChordDescriptionData();
-
-/// One of the tables in the language of `strings`.
-ChordTexts localizedChordTexts(std::span<const ChordTextRow> rows, const StringTable& strings);
+TONELAKE_API const ChordTexts& jazzChordDescriptionData();
 
 }  // namespace tonelake

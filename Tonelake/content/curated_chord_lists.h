@@ -7,6 +7,7 @@
 
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/content/chord_list_category.h"
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/whole_number.h"
 #include "Tonelake/platform/string_table.h"
 
@@ -31,9 +32,9 @@ using ChordLists = std::map<ChordListCategory, ChordList>;
 /// The 13 curated lists. Five themes have none: popularProgressions, colorfulChords, slashChords,
 /// capoFriendly and alternative. Titles and descriptions are in the locale that the process had
 /// at the first call; any thread may call.
-const ChordLists& curatedChordLists();
+TONELAKE_API const ChordLists& curatedChordLists();
 
 /// The same lists with the texts of `strings`.
-ChordLists curatedChordLists(const StringTable& strings);
+TONELAKE_API ChordLists curatedChordLists(const StringTable& strings);
 
 }  // namespace tonelake

@@ -5,10 +5,12 @@
 #include <span>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
+
 namespace tonelake {
 
 /// A style of music, or a mood, in which a chord progression is at home.
-class MusicStyles {
+class TONELAKE_API MusicStyles {
  public:
   enum Case : std::uint8_t {
     folk,

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/whole_number.h"
 #include "Tonelake/platform/diagnostics.h"
 
@@ -11,14 +12,14 @@ namespace tonelake::RomanNumeral {
 
 /// The number that capital letters stand for: "VI" is 6, "IV" 4, "" 0. Any other character than I,
 /// V, X, L, C, D and M makes it 0 and is named in a diagnostic line.
-WholeNumber valueOf(std::string_view numeral, Diagnostics& diagnostics);
+TONELAKE_API WholeNumber valueOf(std::string_view numeral, Diagnostics& diagnostics);
 
 /// Whether the chord is major: nothing but capital numeral letters. "" is major.
-bool isMajor(std::string_view numeral) noexcept;
+TONELAKE_API bool isMajor(std::string_view numeral) noexcept;
 
 /// Semitones from the root of a key, minor or not, to the chord that a whole token such as "♭VII"
 /// or "bVII" names. The degree goes from I to VIII, in capitals or not; a token without one, such
 /// as "V7", lies 0 semitones away, whatever signs it has.
-WholeNumber distanceOf(std::string_view token, bool inMinorKey);
+TONELAKE_API WholeNumber distanceOf(std::string_view token, bool inMinorKey);
 
 }  // namespace tonelake::RomanNumeral

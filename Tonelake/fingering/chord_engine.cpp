@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "Tonelake/fingering/shape_search.h"
+#include "Tonelake/fingering/stored_positions.h"
 
 namespace tonelake {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "Tonelake/fingering/chord_position.h"
 #include "Tonelake/fingering/finger_assignment.h"
-#include "Tonelake/fingering/stored_positions.h"
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/whole_number.h"
 #include "Tonelake/platform/platform.h"
 #include "Tonelake/theory/spelling_tables.h"
@@ -15,9 +15,12 @@
 
 namespace tonelake {
 
+/// Raised whenever the search would give other results: old stored lists are then left behind.
+inline constexpr int chordShapeGeneratorVersion = 2;
+
 /// Generates the playable shapes of a chord and remembers them in a settings store. Holds no
 /// state of its own: engines are cheap, and any thread may use one.
-class ChordEngine {
+class TONELAKE_API ChordEngine {
  public:
   using NameTable = std::span<const std::string_view, 24>;
 

@@ -6,11 +6,13 @@
 #include <string_view>
 #include <vector>
 
+#include "Tonelake/foundation/api.h"
+
 namespace tonelake {
 
 /// Chord types grouped under the labels by which they are browsed. Read-only: any thread may use
 /// it.
-class ChordFilters {
+class TONELAKE_API ChordFilters {
  public:
   using Filters = std::map<std::string, std::vector<std::string>, std::less<>>;
 

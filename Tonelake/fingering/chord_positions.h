@@ -5,6 +5,7 @@
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/fingering/chord_engine.h"
 #include "Tonelake/fingering/chord_position.h"
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/theory/tuning.h"
 
 namespace tonelake::Chords {
@@ -13,9 +14,10 @@ namespace tonelake::Chords {
 /// rest in the order of discovery, at most `limit` of them (-1 for all; any other negative number
 /// is a programming error). The variant does not matter: shapes have the root in the bass. Empty
 /// for an unknown chord type and for a tuning that is not six known names. Any thread may call.
-std::vector<ChordPosition> getChordPositions(const Chord& chord, WholeNumber limit,
-                                             const TuningNames& tuning);
-std::vector<ChordPosition> getChordPositions(const Chord& chord, WholeNumber limit,
-                                             const TuningNames& tuning, const ChordEngine& engine);
+TONELAKE_API std::vector<ChordPosition> getChordPositions(const Chord& chord, WholeNumber limit,
+                                                          const TuningNames& tuning);
+TONELAKE_API std::vector<ChordPosition> getChordPositions(const Chord& chord, WholeNumber limit,
+                                                          const TuningNames& tuning,
+                                                          const ChordEngine& engine);
 
 }  // namespace tonelake::Chords

@@ -9,13 +9,14 @@
 
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/fingering/chord_position.h"
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/theory/tuning.h"
 
 namespace tonelake {
 
 /// Position lists in memory, by chord and tuning. One operation at a time: any thread may call.
 /// Entries are never removed.
-class ChordPositionsCache {
+class TONELAKE_API ChordPositionsCache {
  public:
   /// The process's cache.
   static ChordPositionsCache& shared();
@@ -31,6 +32,6 @@ class ChordPositionsCache {
 };
 
 /// The chord's key in the cache, for example "C-major-0-EADGBE".
-std::string chordPositionsCacheKey(const Chord& chord, const TuningNames& tuning);
+TONELAKE_API std::string chordPositionsCacheKey(const Chord& chord, const TuningNames& tuning);
 
 }  // namespace tonelake

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "Tonelake/fingering/finger_search.h"
+#include "Tonelake/fingering/pressed_strings.h"
 
 namespace tonelake {
 namespace {

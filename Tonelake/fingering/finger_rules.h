@@ -1,14 +1,9 @@
 #pragma once
 
+#include "Tonelake/fingering/finger_assignment.h"
 #include "Tonelake/fingering/pressed_strings.h"
 
 namespace tonelake {
-
-struct FingerRules {
-  /// Whether a barre may lie across a muted string, leaving its silence to the plucking hand:
-  /// (8,x,10,9,10,8) is then held as 1,_,3,2,4,1, and by nobody otherwise.
-  bool barreMayCoverMuted = false;
-};
 
 inline constexpr int indexFinger = 1;
 inline constexpr int ringFinger = 3;

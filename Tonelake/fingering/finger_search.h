@@ -2,7 +2,8 @@
 
 #include <optional>
 
-#include "Tonelake/fingering/finger_rules.h"
+#include "Tonelake/fingering/finger_assignment.h"
+#include "Tonelake/fingering/pressed_strings.h"
 #include "Tonelake/theory/frets.h"
 
 namespace tonelake {

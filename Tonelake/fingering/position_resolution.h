@@ -8,6 +8,7 @@
 #include "Tonelake/fingering/chord_engine.h"
 #include "Tonelake/fingering/chord_position.h"
 #include "Tonelake/fingering/chord_positions_cache.h"
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/whole_number.h"
 #include "Tonelake/theory/tuning.h"
 
@@ -25,15 +26,16 @@ struct PositionRequest {
 
 /// The choice itself, on the caller's thread. Cancellation is checked right after generating and
 /// gives nothing, as does a chord without positions.
-std::optional<ChordPosition> choosePosition(const PositionRequest& request,
-                                            const ChordEngine& engine, ChordPositionsCache& cache,
-                                            const std::stop_token& stop = {});
+TONELAKE_API std::optional<ChordPosition> choosePosition(const PositionRequest& request,
+                                                         const ChordEngine& engine,
+                                                         ChordPositionsCache& cache,
+                                                         const std::stop_token& stop = {});
 
 namespace Chords {
 
 /// The choice made on a background thread of low priority. The future's destructor waits for it.
-std::future<std::optional<ChordPosition>> resolveChordPosition(PositionRequest request,
-                                                               std::stop_token stop = {});
+TONELAKE_API std::future<std::optional<ChordPosition>> resolveChordPosition(
+    PositionRequest request, std::stop_token stop = {});
 
 }  // namespace Chords
 }  // namespace tonelake

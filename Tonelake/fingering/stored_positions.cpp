@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "Tonelake/fingering/chord_engine.h"
 #include "Tonelake/fingering/chord_position_json.h"
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/theory/frets.h"

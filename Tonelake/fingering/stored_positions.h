@@ -13,9 +13,6 @@
 
 namespace tonelake {
 
-/// Raised whenever the search would give other results: old stored lists are then left behind.
-inline constexpr int chordShapeGeneratorVersion = 2;
-
 /// The key under which generated positions are stored, for example
 /// "chordPositions-C-0,4,7--1-E,A,D,G,B,E-g2-v1.4-b212". Stored: do not change.
 std::string storedPositionsKey(std::string_view rootNote, std::span<const WholeNumber> intervals,

@@ -17,6 +17,7 @@
 #include <algorithm>
 
 #include "Tonelake/fingering/finger_assignment.h"
+#include "Tonelake/fingering/finger_rules.h"
 #include "Tonelake/fingering/pressed_strings.h"
 #include "Tonelake/fingering/voicing_judgement.h"
 

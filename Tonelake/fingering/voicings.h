@@ -4,6 +4,7 @@
 
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/fingering/voicing.h"
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/theory/tuning.h"
 
 // The shapes of chords as a player chooses among them: inversions, muted inner strings, power
@@ -28,8 +29,8 @@ namespace tonelake::Voicings {
 /// The lowest string is the first, whatever its pitch. Empty for an unknown chord type, a variant
 /// that the chord does not have, a tuning that is not six known names, and a capo outside 0 to 12.
 /// Any thread may call; takes some tens of microseconds.
-std::vector<Voicing> findVoicings(const Chord& chord, const TuningNames& tuning,
-                                  const VoicingOptions& options = {});
+TONELAKE_API std::vector<Voicing> findVoicings(const Chord& chord, const TuningNames& tuning,
+                                               const VoicingOptions& options = {});
 
 /// One voicing for each chord of a sequence, so that the hand has the easiest time from the first
 /// to the last. The costs of the voicings, which hold their stretches and barres, and of the
@@ -43,7 +44,8 @@ std::vector<Voicing> findVoicings(const Chord& chord, const TuningNames& tuning,
 /// Of each chord the best `options.limit` voicings are considered, and none that is much harder
 /// than its best. Empty when one of the chords has no voicing, see findVoicings. Any thread may
 /// call; takes some tens of microseconds a chord.
-std::vector<Voicing> connectVoicings(const std::vector<Chord>& chords, const TuningNames& tuning,
-                                     const VoicingOptions& options = {});
+TONELAKE_API std::vector<Voicing> connectVoicings(const std::vector<Chord>& chords,
+                                                  const TuningNames& tuning,
+                                                  const VoicingOptions& options = {});
 
 }  // namespace tonelake::Voicings

@@ -14,6 +14,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/whole_number.h"
 
 namespace tonelake::json {
@@ -30,21 +31,21 @@ inline constexpr std::size_t depthLimit = 32;
 inline constexpr std::size_t memberLimit = 4096;
 
 /// What is wrong with a text or a value, for example "[3].rootNote: expected a text".
-class DecodingError : public std::runtime_error {
+class TONELAKE_API DecodingError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
 /// The value that `text` holds. Throws DecodingError when it is not JSON, not UTF-8, or
 /// beyond depthLimit or memberLimit.
-Value parse(std::string_view text);
+TONELAKE_API Value parse(std::string_view text);
 
 /// `value` as compact JSON text. Invalid UTF-8 inside texts is replaced by U+FFFD, never thrown.
-std::string write(const Value& value);
+TONELAKE_API std::string write(const Value& value);
 
 /// One value inside a document together with the path that leads to it, so that an error can
 /// name its place. Refers to the document: keep that alive.
-class Node {
+class TONELAKE_API Node {
  public:
   explicit Node(const Value& value, std::string path = "")
       : value_(&value), path_(std::move(path)) {}

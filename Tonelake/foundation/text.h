@@ -5,16 +5,18 @@
 #include <string_view>
 #include <vector>
 
+#include "Tonelake/foundation/api.h"
+
 namespace tonelake {
 
 /// The pieces of `text` between separators, empty ones included; "" gives one empty piece.
-std::vector<std::string_view> split(std::string_view text, char separator);
+TONELAKE_API std::vector<std::string_view> split(std::string_view text, char separator);
 
 /// What stands between runs of any of the bytes in `separators`: " C, G " and " ," give {"C","G"}.
 std::vector<std::string_view> splitWords(std::string_view text, std::string_view separators);
 
 /// The pieces with `separator` between them: {"E","A"} and "," give "E,A".
-std::string join(const std::vector<std::string>& pieces, std::string_view separator);
+TONELAKE_API std::string join(const std::vector<std::string>& pieces, std::string_view separator);
 
 /// `text` with every occurrence of `from` (not empty) replaced by `to`.
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
@@ -28,17 +30,17 @@ std::size_t countCharacters(std::string_view text) noexcept;
 
 /// The characters of `text` one by one. A byte that belongs to no well-formed UTF-8 character is a
 /// piece of its own: "é\xFF" gives "é" and "\xFF".
-std::vector<std::string_view> splitCharacters(std::string_view text);
+TONELAKE_API std::vector<std::string_view> splitCharacters(std::string_view text);
 
 /// `text` between quotation marks for a message; a long one is cut after 40 bytes, between two
 /// characters, and ends in "...".
 std::string quoted(std::string_view text);
 
 /// Letters A to Z and a to z in the other case; every other byte as it is.
-char lowercase(char letter) noexcept;
-char uppercase(char letter) noexcept;
+TONELAKE_API char lowercase(char letter) noexcept;
+TONELAKE_API char uppercase(char letter) noexcept;
 
 /// Whether `text` is well-formed UTF-8 (no overlong forms, no surrogates, nothing above U+10FFFF).
-bool isValidUtf8(std::string_view text) noexcept;
+TONELAKE_API bool isValidUtf8(std::string_view text) noexcept;
 
 }  // namespace tonelake

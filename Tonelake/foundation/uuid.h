@@ -6,11 +6,13 @@
 #include <string>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
+
 namespace tonelake {
 
 /// A universally unique identifier, 128 bits. Records carry one where two of them may hold the
 /// same and yet be two.
-struct Uuid {
+struct TONELAKE_API Uuid {
   std::array<std::uint8_t, 16> bytes{};
 
   /// A new one (version 4). Any thread may call.

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/uuid.h"
 #include "Tonelake/patterns/bass_pattern.h"
 #include "Tonelake/patterns/drum_pattern.h"
@@ -46,7 +47,7 @@ struct ArpeggioSequence {
 };
 
 /// A library of ways to pick and strum.
-struct ArpeggioSequences {
+struct TONELAKE_API ArpeggioSequences {
   std::vector<ArpeggioSequence> sequences;
 
   /// The first with exactly this name; null when there is none.

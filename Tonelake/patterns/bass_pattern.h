@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/uuid.h"
 #include "Tonelake/foundation/whole_number.h"
 #include "Tonelake/patterns/pattern_enumerations.h"
@@ -46,7 +47,7 @@ struct BassPatternWithComplexity {
 };
 
 /// A library of bass lines.
-struct BassPatterns {
+struct TONELAKE_API BassPatterns {
   std::vector<BassPattern> bassPatterns;
 
   /// The first with exactly this name; null when there is none.

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/uuid.h"
 #include "Tonelake/patterns/pattern_enumerations.h"
 
@@ -49,7 +50,7 @@ struct DrumPatternWithComplexity {
 };
 
 /// A library of grooves.
-struct DrumPatterns {
+struct TONELAKE_API DrumPatterns {
   std::vector<DrumPattern> drumPatterns;
 
   /// The first with exactly this name; null when there is none.

@@ -4,6 +4,8 @@
 #include <optional>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
+
 // What the notes of accompaniment patterns are made of. Raw values and names of cases are the
 // encoded form: do not change them.
 
@@ -20,15 +22,16 @@ enum class NoteDuration : std::uint8_t {
 };
 
 /// 1.0 for a semibreve, half of it for each case further, 0.03125 at last.
-double rawValue(NoteDuration duration) noexcept;
+TONELAKE_API double rawValue(NoteDuration duration) noexcept;
 /// The case with exactly this raw value; nothing for any other number.
-std::optional<NoteDuration> noteDurationFromRawValue(double rawValue) noexcept;
+TONELAKE_API std::optional<NoteDuration> noteDurationFromRawValue(double rawValue) noexcept;
 
 enum class TimeSignature : std::uint8_t { ts_34, ts_44 };
 
 /// "3/4" or "4/4".
-std::string_view rawValue(TimeSignature timeSignature) noexcept;
-std::optional<TimeSignature> timeSignatureFromRawValue(std::string_view rawValue) noexcept;
+TONELAKE_API std::string_view rawValue(TimeSignature timeSignature) noexcept;
+TONELAKE_API std::optional<TimeSignature> timeSignatureFromRawValue(
+    std::string_view rawValue) noexcept;
 
 /// A voice of the drum kit with the note number that the app's drum sounds lie on, which is not
 /// that of General MIDI. The low tom lies below the open hi-hat: kept on purpose.
@@ -50,7 +53,7 @@ enum class DrumNoteType : std::uint8_t {
 constexpr std::uint8_t rawValue(DrumNoteType type) noexcept {
   return static_cast<std::uint8_t>(type);
 }
-std::optional<DrumNoteType> drumNoteTypeFromRawValue(std::int64_t rawValue) noexcept;
+TONELAKE_API std::optional<DrumNoteType> drumNoteTypeFromRawValue(std::int64_t rawValue) noexcept;
 
 /// What the picking hand does, read from a guitarist's hand on the shape of the chord. Only strings
 /// that the shape lets sound are played; "upper" ones sound higher. Open C major, x32010, sounds
@@ -88,13 +91,14 @@ enum class NoteArticulation : std::uint8_t {
 };
 
 /// The name of the case: "t", "iii".
-std::string_view caseName(ArpeggioDirection direction) noexcept;
-std::string_view caseName(BassPitch pitch) noexcept;
-std::string_view caseName(NoteArticulation articulation) noexcept;
+TONELAKE_API std::string_view caseName(ArpeggioDirection direction) noexcept;
+TONELAKE_API std::string_view caseName(BassPitch pitch) noexcept;
+TONELAKE_API std::string_view caseName(NoteArticulation articulation) noexcept;
 
 /// Nothing for any other text.
-std::optional<ArpeggioDirection> arpeggioDirectionNamed(std::string_view name) noexcept;
-std::optional<BassPitch> bassPitchNamed(std::string_view name) noexcept;
-std::optional<NoteArticulation> noteArticulationNamed(std::string_view name) noexcept;
+TONELAKE_API std::optional<ArpeggioDirection> arpeggioDirectionNamed(
+    std::string_view name) noexcept;
+TONELAKE_API std::optional<BassPitch> bassPitchNamed(std::string_view name) noexcept;
+TONELAKE_API std::optional<NoteArticulation> noteArticulationNamed(std::string_view name) noexcept;
 
 }  // namespace tonelake

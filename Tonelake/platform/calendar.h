@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/platform/instant.h"
 
 namespace tonelake {
@@ -31,7 +32,7 @@ struct YearMonth {
 /// The user's calendar in the user's time zone. Every answer but `now` and `timeZone` may be
 /// missing, and the library has a fall-back for each. Implementations are safe to call from any
 /// thread.
-class Calendar {
+class TONELAKE_API Calendar {
  public:
   virtual ~Calendar() = default;
 
@@ -60,6 +61,6 @@ class Calendar {
 };
 
 /// The calendar without any set-up: UTC and the system's clock, by the standard library alone.
-std::shared_ptr<const Calendar> makeUtcCalendar();
+TONELAKE_API std::shared_ptr<const Calendar> makeUtcCalendar();
 
 }  // namespace tonelake

@@ -3,10 +3,12 @@
 #include <memory>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
+
 namespace tonelake {
 
 /// Where single diagnostic lines go. Safe to call from any thread.
-class Diagnostics {
+class TONELAKE_API Diagnostics {
  public:
   virtual ~Diagnostics() = default;
   /// `line` without a line break at its end.
@@ -17,6 +19,6 @@ enum class DiagnosticStream { standardOutput, standardError };
 
 /// Lines on one of the standard streams. Standard output is the library's custom; hosts whose
 /// standard output is an answer choose standard error.
-std::shared_ptr<Diagnostics> makeStreamDiagnostics(DiagnosticStream stream);
+TONELAKE_API std::shared_ptr<Diagnostics> makeStreamDiagnostics(DiagnosticStream stream);
 
 }  // namespace tonelake

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/platform/calendar.h"
 
 namespace tonelake {
@@ -19,7 +20,7 @@ struct NotificationRequest {
 };
 
 /// The service that keeps and delivers notifications.
-class NotificationCenter {
+class TONELAKE_API NotificationCenter {
  public:
   /// Called once per request, on a thread of the service's choosing: nothing on success, else
   /// what went wrong.

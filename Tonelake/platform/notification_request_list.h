@@ -2,12 +2,13 @@
 
 #include <vector>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/platform/notification_center.h"
 
 namespace tonelake {
 
 /// A center that keeps what it is handed for its owner to look at, and delivers none of it.
-class NotificationRequestList final : public NotificationCenter {
+class TONELAKE_API NotificationRequestList final : public NotificationCenter {
  public:
   void add(const NotificationRequest& request, Completion completion) override {
     requests.push_back(request);

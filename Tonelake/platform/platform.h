@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/platform/application_information.h"
 #include "Tonelake/platform/calendar.h"
 #include "Tonelake/platform/diagnostics.h"
@@ -17,7 +18,7 @@ namespace tonelake {
 /// Everything the library asks of its host. A default-made platform is inert: UTC, English,
 /// settings in memory, the compiled-in resources, notifications dropped, diagnostics on standard
 /// output. A host replaces the members it has something better for; none may be null.
-struct Platform {
+struct TONELAKE_API Platform {
   Platform();
 
   std::shared_ptr<SettingsStore> standardSettings;  ///< generated positions
@@ -36,9 +37,9 @@ struct Platform {
 /// Makes `platform` the one that operations without a platform of their own use. Call it once,
 /// before anything else of the library: a second call, or one after first use, is a programming
 /// error.
-void installPlatform(Platform platform);
+TONELAKE_API void installPlatform(Platform platform);
 
 /// The installed platform, or the inert one. Safe to call from any thread.
-const Platform& processPlatform();
+TONELAKE_API const Platform& processPlatform();
 
 }  // namespace tonelake

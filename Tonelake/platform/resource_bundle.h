@@ -5,10 +5,12 @@
 #include <string>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
+
 namespace tonelake {
 
 /// The library's packaged files. Safe to call from any thread.
-class ResourceBundle {
+class TONELAKE_API ResourceBundle {
  public:
   virtual ~ResourceBundle() = default;
 
@@ -19,6 +21,6 @@ class ResourceBundle {
 };
 
 /// The files compiled into the library: nothing to find, nothing to install.
-std::shared_ptr<const ResourceBundle> makeEmbeddedResourceBundle();
+TONELAKE_API std::shared_ptr<const ResourceBundle> makeEmbeddedResourceBundle();
 
 }  // namespace tonelake

@@ -5,12 +5,14 @@
 #include <string>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
+
 namespace tonelake {
 
 /// A named collection of settings: texts, truth values and data by key. Asking for a key under
 /// another type than it was written with gives nothing. A store that cannot keep a value says so
 /// once, by its own means, and goes on. Implementations are safe to call from any thread.
-class SettingsStore {
+class TONELAKE_API SettingsStore {
  public:
   virtual ~SettingsStore() = default;
 
@@ -25,6 +27,6 @@ class SettingsStore {
 };
 
 /// A store that lives in memory and is gone with the process.
-std::shared_ptr<SettingsStore> makeMemorySettingsStore();
+TONELAKE_API std::shared_ptr<SettingsStore> makeMemorySettingsStore();
 
 }  // namespace tonelake

@@ -4,10 +4,12 @@
 #include <string>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
+
 namespace tonelake {
 
 /// The library's translations. Safe to call from any thread.
-class StringTable {
+class TONELAKE_API StringTable {
  public:
   virtual ~StringTable() = default;
 
@@ -22,6 +24,6 @@ constexpr const char* message(const char* english) noexcept {
 }
 
 /// The texts in English, without any catalogue file.
-std::shared_ptr<const StringTable> makeEnglishStringTable();
+TONELAKE_API std::shared_ptr<const StringTable> makeEnglishStringTable();
 
 }  // namespace tonelake

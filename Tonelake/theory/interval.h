@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/whole_number.h"
 
 namespace tonelake::Interval {
@@ -12,13 +13,14 @@ namespace tonelake::Interval {
 /// unknown or no spelling up to a triple sign has that letter. The pitch must stay within the
 /// three octaves of the spelling tables and the degree must not fall below the letter C:
 /// `isSpellable` tells; anything else is a programming error.
-std::string getNoteWithDistance(WholeNumber distance, WholeNumber degree, std::string_view note);
+TONELAKE_API std::string getNoteWithDistance(WholeNumber distance, WholeNumber degree,
+                                             std::string_view note);
 
 /// Whether getNoteWithDistance may be asked (its answer may still be "").
-bool isSpellable(WholeNumber distance, WholeNumber degree, std::string_view note);
+TONELAKE_API bool isSpellable(WholeNumber distance, WholeNumber degree, std::string_view note);
 
 /// The name of the interval that a formula token such as "♭7" stands for ("Minor Seventh"); ""
 /// for any other text.
-std::string getIntervalFromAlteredScaleDegree(std::string_view token);
+TONELAKE_API std::string getIntervalFromAlteredScaleDegree(std::string_view token);
 
 }  // namespace tonelake::Interval

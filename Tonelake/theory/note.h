@@ -7,11 +7,13 @@
 #include <span>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
+
 namespace tonelake {
 
 /// A spelled pitch name without an octave, one of 45. A letter, then s (sharp), f (flat), ds
 /// (double sharp), sds (triple sharp), df (double flat) or fdf (triple flat): Note::Ef is "E♭".
-class Note {
+class TONELAKE_API Note {
  public:
   // clang-format off
   enum Case : std::uint8_t {

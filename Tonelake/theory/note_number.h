@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/whole_number.h"
 #include "Tonelake/theory/note.h"
 
@@ -29,6 +30,6 @@ inline constexpr WholeNumber lowestSpelledNoteNumber = 12;
 
 /// The note that a MIDI number stands for, spelled with sharps: 69 gives A in octave 4. Nothing
 /// above 127 and below 0; 0 to 11 have no octave of their own and are a programming error.
-std::optional<NoteAndOctave> getNote(WholeNumber from);
+TONELAKE_API std::optional<NoteAndOctave> getNote(WholeNumber from);
 
 }  // namespace tonelake

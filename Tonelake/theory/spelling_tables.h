@@ -5,6 +5,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "Tonelake/foundation/api.h"
+
 namespace tonelake {
 
 using TwelveNames = std::array<std::string_view, 12>;
@@ -45,6 +47,6 @@ inline constexpr std::array<std::string_view, 21> noteLetters{"C", "D", "E", "F"
 
 /// Pitch class (0 to 11, C is 0) of every name in the five tables: "C♭" is 11, "B♯" is 0. Made on
 /// first use; safe to read from any thread.
-const std::unordered_map<std::string_view, int>& noteIndexByName();
+TONELAKE_API const std::unordered_map<std::string_view, int>& noteIndexByName();
 
 }  // namespace tonelake

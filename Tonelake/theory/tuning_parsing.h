@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/theory/tuning.h"
 
 namespace tonelake {
@@ -24,12 +25,12 @@ struct ParsedTuning {
 namespace Tuning {
 
 /// Every tuning that parseTuning knows by name, the standard one first.
-std::span<const NamedTuning> namedTunings();
+TONELAKE_API std::span<const NamedTuning> namedTunings();
 
 /// Reads a tuning the way players write it: six note names with blanks or commas between them or
 /// none ("D A D G A D", "Eb,Ab,Db,Gb,Bb,Eb", "EADGBE", "eadgbe"), signs as ♯ and ♭ or "#" and "b",
 /// or a name of namedTunings() ("Open G", "half-step down"). Capitals do not matter.
-ParsedTuning parseTuning(std::string_view text);
+TONELAKE_API ParsedTuning parseTuning(std::string_view text);
 
 }  // namespace Tuning
 }  // namespace tonelake

@@ -6,12 +6,13 @@
 #include <string>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/platform/string_table.h"
 
 namespace tonelake {
 
 /// How hard the chord of the day is.
-class ChordCategory {
+class TONELAKE_API ChordCategory {
  public:
   enum Case : std::uint8_t { beginner, advanced, jazz };
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/today/chord_category.h"
 
 namespace tonelake {
@@ -19,9 +20,9 @@ struct ReminderKey {
 };
 
 /// "chordOfTheDay_jazz_2025_3_7". Kept by notification services and calendars: do not change.
-std::string notificationIdentifier(const ReminderKey& key);
+TONELAKE_API std::string notificationIdentifier(const ReminderKey& key);
 
 /// The reverse; nothing for any text that notificationIdentifier does not write.
-std::optional<ReminderKey> parseNotificationIdentifier(std::string_view identifier);
+TONELAKE_API std::optional<ReminderKey> parseNotificationIdentifier(std::string_view identifier);
 
 }  // namespace tonelake

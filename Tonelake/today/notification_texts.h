@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/platform/string_table.h"
 
 namespace tonelake {
@@ -32,7 +33,7 @@ inline constexpr std::array<std::string_view, 7> notificationBodies{{
 // clang-format on
 
 /// The body in the current locale with `chordName` in its place: "Warm up with Cmaj7 today!"
-std::string notificationBody(const StringTable& strings, std::string_view key,
-                             std::string_view chordName);
+TONELAKE_API std::string notificationBody(const StringTable& strings, std::string_view key,
+                                          std::string_view chordName);
 
 }  // namespace tonelake

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "Tonelake/chords/chord.h"
+#include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/whole_number.h"
 #include "Tonelake/platform/calendar.h"
 #include "Tonelake/platform/platform.h"
@@ -16,7 +17,7 @@ namespace tonelake {
 /// The chord of every day of the year, in three categories. Reads its lists when it is made and
 /// never changes afterwards: any thread may ask. A packaged list that is missing or damaged stops
 /// the process.
-class TodayChordLibrary {
+class TONELAKE_API TodayChordLibrary {
  public:
   /// One chord a day, 31 December of a leap year included.
   static constexpr std::size_t daysInYear = 366;

@@ -3,20 +3,18 @@
 #include <span>
 #include <string_view>
 
-#include "Tonelake/foundation/json.h"
+#include "zyndle/rpc/json_rpc.h"
 #include "zyndle/rpc/method_context.h"
 
 namespace zyndle {
-
-namespace json = tonelake::json;
 
 /// One method: its result for its named parameters. Throws json::DecodingError, which names the
 /// parameter, for one that is missing, of the wrong type or breaks a precondition of the
 /// operation. Parameters that a method does not know are ignored.
 using Method = json::Value (*)(const json::Node& parameters, MethodContext& context);
 
-/// The method of this name; null when there is none.
-Method findMethod(std::string_view name);
+/// All methods on one host. They share what they keep from call to call: for one thread at a time.
+RpcMethodFinder methodsFor(RpcContext host);
 
 struct MethodRow {
   std::string_view name;

@@ -11,7 +11,6 @@
 #include "zyndle/rpc/json_rpc.h"
 #include "zyndle/rpc/line_reader.h"
 #include "zyndle/rpc/line_writer.h"
-#include "zyndle/rpc/method_context.h"
 #include "zyndle/rpc/method_table.h"
 
 namespace zyndle {
@@ -43,14 +42,7 @@ void answerLines(LineReader& reader, LineWriter& writer, const RpcMethodFinder& 
 int runRpc(int input, int output, RpcContext context) {
   // A write to a closed pipe then fails with EPIPE instead of ending the process in mid-air.
   std::signal(SIGPIPE, SIG_IGN);
-  MethodContext methodContext(std::move(context));
-  const RpcMethodFinder methods = [&](std::string_view name) -> RpcMethod {
-    const Method method = findMethod(name);
-    if (method == nullptr) return {};
-    return [method, &methodContext](const json::Node& parameters) {
-      return method(parameters, methodContext);
-    };
-  };
+  const RpcMethodFinder methods = methodsFor(std::move(context));
   LineReader reader(input, lineLimit);
   LineWriter writer(output);
   try {
