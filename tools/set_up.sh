@@ -17,6 +17,7 @@ root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
     chromium clang-format dbus libgmock-dev libgtest-dev poppler-utils
     python3 python3-dbusmock python3-icalendar python3-mido)
   package_packages=(dpkg-dev file gzip lintian)
+  docs_packages=(doxygen)
   check_packages=(clang-tidy shellcheck)
 }
 
