@@ -17,9 +17,11 @@ target_include_directories(zyndle_compile_options INTERFACE ${PROJECT_SOURCE_DIR
 
 if(ZYNDLE_SANITIZE)
   target_compile_options(zyndle_compile_options INTERFACE
-    -fsanitize=${ZYNDLE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer
-    # GCC sees variables it believes unset in the code that the sanitizers add. The presets
-    # without them keep the warning.
-    -Wno-maybe-uninitialized)
+    -fsanitize=${ZYNDLE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  # GCC sees variables it believes unset in the code that the sanitizers add. The presets without
+  # them keep the warning.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(zyndle_compile_options INTERFACE -Wno-maybe-uninitialized)
+  endif()
   target_link_options(zyndle_compile_options INTERFACE -fsanitize=${ZYNDLE_SANITIZE})
 endif()

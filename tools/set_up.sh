@@ -17,7 +17,9 @@ root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
     chromium clang-format dbus libgmock-dev libgtest-dev poppler-utils
     python3 python3-dbusmock python3-icalendar python3-mido)
   package_packages=(dpkg-dev file gzip lintian)
+  docs_packages=(doxygen)
   check_packages=(clang-tidy shellcheck)
+  fuzz_packages=(clang libclang-rt-14-dev llvm)
 }
 
 say() { printf '%s: %s\n' "${0##*/}" "$*" >&2; }

@@ -179,7 +179,7 @@ void showChord(const ChordOptions& options) {
 void addChordCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<ChordOptions>();
   CLI::App& command = *app.add_subcommand("chord", translated(description));
-  command.footer(translated(introduction) + translated(instrumentHelp) + translated(examples));
+  command.footer(translated(introduction) + instrumentHelp() + translated(examples));
   command.add_option("NAME", options->name, translated("The chord's name, in one word or several"))
       ->required()
       ->type_name("");

@@ -82,7 +82,7 @@ void showConnected(const ConnectOptions& options) {
 void addConnectCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<ConnectOptions>();
   CLI::App& command = *app.add_subcommand("connect", translated(description));
-  command.footer(translated(introduction) + translated(instrumentHelp) + translated(examples));
+  command.footer(translated(introduction) + instrumentHelp() + translated(examples));
   command
       .add_option("CHORDS", options->names, translated("The names of the chords, in their order"))
       ->required()

@@ -200,7 +200,7 @@ void showFound(const FindOptions& options) {
 void addFindCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<FindOptions>();
   CLI::App& command = *app.add_subcommand("find", translated(description));
-  command.footer(translated(introduction) + translated(instrumentHelp) + translated(examples));
+  command.footer(translated(introduction) + instrumentHelp() + translated(examples));
   command.add_option("NOTES", options->notes, translated("The names of the notes, the bass first"))
       ->type_name("");
   command.add_option("--frets", options->frets, translated("A shape in place of notes"))

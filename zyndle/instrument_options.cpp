@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "Tonelake/foundation/text.h"
 #include "Tonelake/theory/spelling_tables.h"
 #include "Tonelake/theory/tuning_parsing.h"
 #include "zyndle/command_error.h"
@@ -12,6 +13,27 @@
 namespace zyndle {
 
 using tonelake::TuningNames;
+
+namespace {
+
+// TRANSLATORS: {} are names of tunings, on lines of their own.
+constexpr const char* help =
+    message(R"(A tuning is six notes, lowest string first, or the name of a common one:
+{}
+With a capo, shapes are counted from it and the names are what sounds.
+)");
+
+}  // namespace
+
+std::string instrumentHelp() {
+  constexpr const char* unbreakable = "\u00A0";  // keeps a line from ending inside a name
+  std::string names;
+  for (const tonelake::NamedTuning& tuning : tonelake::Tuning::namedTunings()) {
+    const std::string name = tonelake::replaceAll(std::string(tuning.name), " ", unbreakable);
+    names += (names.empty() ? "" : ", ") + tonelake::replaceAll(name, "♯", "#");
+  }
+  return translated(help, tonelake::replaceAll(paragraph(names + '.'), unbreakable, " "));
+}
 
 void addInstrumentOptions(CLI::App& command, InstrumentOptions& options) {
   command

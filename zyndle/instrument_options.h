@@ -4,7 +4,6 @@
 #include <string>
 
 #include "Tonelake/theory/tuning.h"
-#include "zyndle/translation.h"
 
 namespace CLI {
 class App;
@@ -24,14 +23,7 @@ struct Instrument {
 };
 
 /// How a tuning and a capo are given, for the help of a subcommand; ends with a line break.
-inline constexpr const char* instrumentHelp =
-    message(R"(A tuning is six notes, lowest string first, or the name of a common one:
-standard, half step down, full step down, drop D, double drop D, drop C#,
-drop C, DADGAD, open A, open C, open D, open D minor, open E, open G,
-all fourths, new standard.
-
-With a capo, shapes are counted from it and the names are what sounds.
-)");
+std::string instrumentHelp();
 
 /// Adds --tuning and --capo to a subcommand. `options` has to live as long as the subcommand.
 void addInstrumentOptions(CLI::App& command, InstrumentOptions& options);

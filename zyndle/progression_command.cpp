@@ -143,7 +143,7 @@ void showProgression(const ProgressionOptions& options) {
 void addProgressionCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<ProgressionOptions>();
   CLI::App& command = *app.add_subcommand("progression", translated(description));
-  command.footer(translated(introduction) + translated(instrumentHelp) + translated(examples));
+  command.footer(translated(introduction) + instrumentHelp() + translated(examples));
   command
       .add_option("NUMERALS", options->numerals,
                   translated("The chords as Roman numerals, in their order"))

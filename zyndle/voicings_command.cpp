@@ -130,7 +130,7 @@ void showVoicings(const CommandOptions& options) {
 void addVoicingsCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<CommandOptions>();
   CLI::App& command = *app.add_subcommand("voicings", translated(description));
-  command.footer(translated(introduction) + translated(instrumentHelp) + translated(examples));
+  command.footer(translated(introduction) + instrumentHelp() + translated(examples));
   command.add_option("NAME", options->name, translated("The chord's name, in one word or several"))
       ->required()
       ->type_name("");

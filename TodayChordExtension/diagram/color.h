@@ -7,9 +7,10 @@ namespace todaychord {
 
 /// A colour: 0xRRGGBB and an opacity of 0 (clear) to 1.
 struct Color {
-  std::uint32_t rgb = 0;
-  double opacity = 1;
+  std::uint32_t rgb = 0;  ///< 0xRRGGBB
+  double opacity = 1;     ///< 0 clear, 1 opaque
 
+  /// The same red, green and blue with another opacity.
   constexpr Color withOpacity(double value) const { return {rgb, value}; }
 
   friend bool operator==(const Color&, const Color&) = default;
@@ -17,12 +18,13 @@ struct Color {
 
 /// One colour of a gradient at a place from 0 (start or centre) to 1 (end or rim).
 struct ColorStop {
-  double place = 0;
-  Color color;
+  double place = 0;  ///< 0 to 1; stops come in the order of their places
+  Color color;       ///< blends into that of the next stop
 
   friend bool operator==(const ColorStop&, const ColorStop&) = default;
 };
 
+/// Stops in the order of their places.
 using Gradient = std::vector<ColorStop>;
 
 }  // namespace todaychord

@@ -7,14 +7,15 @@
 #include "TodayChordExtension/diagram/chord_view.h"
 #include "Tonelake/foundation/api.h"
 
+// Pure functions: any thread may call.
 namespace todaychord {
 
 // Lengths are design units; string indexes count in display order from the left, 0 to 5.
 
 /// What a dot stands for; strings that share one are held by the same finger.
 struct FretFinger1 {
-  WholeNumber fret = 0;
-  WholeNumber finger = 0;
+  WholeNumber fret = 0;    ///< the row that is displayed, from 1
+  WholeNumber finger = 0;  ///< 1 index to 4 little
 
   friend auto operator<=>(const FretFinger1&, const FretFinger1&) = default;
 };
@@ -22,9 +23,9 @@ struct FretFinger1 {
 /// A finger on a string. Its centre is given in the marker layer, whose origin lies at (6.5, 6.5)
 /// of the view.
 struct FingerDot {
-  int stringIndex = 0;
-  double x = 0;
-  double y = 0;
+  int stringIndex = 0;      ///< 0 the leftmost
+  double x = 0;             ///< 26.5 on the leftmost string, 14 more on each further
+  double y = 0;             ///< 36 in the middle of row 1, 23 more in each further
   WholeNumber finger = -1;  ///< -1 or 0 where no finger is known
 
   friend bool operator==(const FingerDot&, const FingerDot&) = default;
@@ -32,12 +33,12 @@ struct FingerDot {
 
 /// A bar between two strings that one finger holds; anchor and width as the diagram defines them.
 struct BarreSegment {
-  int startStringIndex = 0;
-  int endStringIndex = 0;
-  WholeNumber fret = 0;  ///< displayed row of the first string
-  double x = 0;
-  double y = 0;
-  double width = 0;
+  int startStringIndex = 0;  ///< the left end, where the bar is anchored
+  int endStringIndex = 0;    ///< the right end
+  WholeNumber fret = 0;      ///< displayed row of the first string
+  double x = 0;              ///< of the anchor
+  double y = 0;              ///< of the anchor
+  double width = 0;          ///< 14 from each string to the next
 
   friend bool operator==(const BarreSegment&, const BarreSegment&) = default;
 };
@@ -45,10 +46,10 @@ struct BarreSegment {
 /// The name of a sounding string's note, spelled as the chord spells it; "" when it is no chord
 /// tone. Its centre is given in view space.
 struct NoteLabel {
-  int stringIndex = 0;
-  std::string note;
-  double x = 0;
-  double y = 0;
+  int stringIndex = 0;  ///< 0 the leftmost
+  std::string note;     ///< sharps and flats as signs: "E♭"
+  double x = 0;         ///< view space
+  double y = 0;         ///< view space
 
   /// Tells the labels of one diagram apart.
   int id() const { return stringIndex; }
@@ -58,11 +59,11 @@ struct NoteLabel {
 
 /// Where everything that depends on the fingering lies.
 struct DiagramLayout {
-  double scale = 1;
-  WholeNumber baseFret = 1;     ///< fret of row 1
-  WholeNumbers displayedFrets;  ///< row per string in display order; -1 muted, 0 open
-  std::vector<FingerDot> dots;
-  std::vector<BarreSegment> barres;
+  double scale = 1;                   ///< pixels per design unit
+  WholeNumber baseFret = 1;           ///< fret of row 1
+  WholeNumbers displayedFrets;        ///< row per string in display order; -1 muted, 0 open
+  std::vector<FingerDot> dots;        ///< one for each pressed string
+  std::vector<BarreSegment> barres;   ///< each from one string of a finger to its next
   std::vector<NoteLabel> noteLabels;  ///< none unless the view displays notes
 };
 

@@ -7,6 +7,7 @@
 #include "TodayChordExtension/diagram/scene.h"
 #include "Tonelake/foundation/api.h"
 
+// Pure functions: any thread may call.
 namespace todaychord {
 
 /// The diagram of a fingering, 135 design units wide (at least 67.5 points, whatever the width),

@@ -6,6 +6,7 @@
 #include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/whole_number.h"
 
+// Pure functions: any thread may call.
 namespace todaychord {
 
 /// English sentences that say how to hold a shape: the fingers by fret, then the open strings,

@@ -6,6 +6,7 @@
 #include "TodayChordExtension/diagram/scene.h"
 #include "Tonelake/foundation/api.h"
 
+// Pure functions: any thread may call.
 namespace todaychord {
 
 /// The square that icons are drawn on is this wide and high; nothing in an icon leaves it.

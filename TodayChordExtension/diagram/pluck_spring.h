@@ -2,13 +2,14 @@
 
 #include "Tonelake/foundation/api.h"
 
+// Pure functions: any thread may call.
 namespace todaychord {
 
 /// The damped spring that a plucked string swings on, released from rest.
 struct TONELAKE_API PluckSpring {
-  double mass = 1;
-  double stiffness = 0;
-  double damping = 4;
+  double mass = 1;       ///< of the string
+  double stiffness = 0;  ///< 6000 for string 1, 1000 for string 6
+  double damping = 4;    ///< how fast the swing dies away
 
   /// The displacement `seconds` after the release, for a release from 1.
   double displacement(double seconds) const;

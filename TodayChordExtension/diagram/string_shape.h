@@ -3,6 +3,7 @@
 #include "TodayChordExtension/diagram/geometry.h"
 #include "Tonelake/foundation/api.h"
 
+// Pure functions: any thread may call.
 namespace todaychord {
 
 /// A string that bows towards where it is plucked; straight when it is not displaced.

@@ -4,6 +4,7 @@
 
 #include "Tonelake/foundation/api.h"
 
+// Pure functions: any thread may call.
 namespace todaychord {
 
 /// A width that `text` does not exceed in the program's typefaces at `fontSize`, in the unit of

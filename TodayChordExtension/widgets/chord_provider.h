@@ -7,14 +7,19 @@
 
 namespace todaychord {
 
-/// The entries of the chord-of-the-day widget: one for now, until the next local midnight.
+/// The entries of the chord-of-the-day widget: one for now, until the next local midnight. Any
+/// thread may ask.
 class TONELAKE_API ChordProvider final : public TimelineProvider<ChordEntry> {
  public:
+  /// On the platform of the process, or on what it is given.
   explicit ChordProvider(WidgetSources sources = WidgetSources::ofProcess());
 
   ChordEntry placeholder() const override;
+  /// One entry, dated now; the next at the coming local midnight, or a day from now where the
+  /// calendar finds none.
   void getTimeline(const std::function<void(Timeline<ChordEntry>)>& completion) const override;
 
+  /// The daily chords; not null.
   const std::shared_ptr<const tonelake::TodayChordLibrary> library;
 
  private:

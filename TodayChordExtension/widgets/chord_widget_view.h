@@ -6,6 +6,7 @@
 #include "TodayChordExtension/widgets/widget_view_settings.h"
 #include "Tonelake/foundation/api.h"
 
+// Any thread may draw: texts and shapes come from the ports of the process.
 namespace todaychord {
 
 /// The chord of the day as a family shows it; families other than those with a layout of their own

@@ -6,6 +6,7 @@
 
 #include "Tonelake/foundation/api.h"
 
+// Pure functions: any thread may call.
 namespace todaychord {
 
 // Texts inside links, as RFC 3986 has them.

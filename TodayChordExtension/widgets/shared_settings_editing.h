@@ -7,11 +7,12 @@
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/foundation/api.h"
 
+// Pure functions: any thread may call.
 namespace todaychord {
 
 /// What a data value of the shared settings becomes, or why it must stay as it is.
 struct SharedDataEdit {
-  std::string data;
+  std::string data;     ///< what to store; "" where there is a problem
   std::string problem;  ///< for example "[3].rootNote: expected a text"; "" on success
 };
 

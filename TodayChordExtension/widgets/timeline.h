@@ -34,8 +34,8 @@ class TimelineReloadPolicy {
 /// What a widget shows from now on.
 template <typename Entry>
 struct Timeline {
-  std::vector<Entry> entries;  ///< by date; at least one
-  TimelineReloadPolicy policy;
+  std::vector<Entry> entries;   ///< by date; at least one
+  TimelineReloadPolicy policy;  ///< when to ask again
 
   friend bool operator==(const Timeline&, const Timeline&) = default;
 };
@@ -50,6 +50,7 @@ class TONELAKE_API TimelineProvider {
   /// An entry for now that stands in until there is a real one. Reads no settings.
   virtual Entry placeholder() const = 0;
 
+  /// What to show from now on.
   virtual void getTimeline(const std::function<void(Timeline<Entry>)>& completion) const = 0;
 
   /// The first entry of the timeline.

@@ -8,6 +8,7 @@
 #include "TodayChordExtension/widgets/widget_view_settings.h"
 #include "Tonelake/foundation/api.h"
 
+// Any thread may call: texts and shapes come from the ports of the process.
 namespace todaychord {
 
 // What widgets show and say of a chord, which may be missing or of an unknown type.
@@ -27,8 +28,10 @@ TONELAKE_API std::string widgetTones(const std::optional<Chord>& chord);
 
 // The two lines that name the chord of the day: its title and tones, or what stands in for them, so
 // that a card without a chord does not look torn.
+/// The title, or "No chord" in the user's language.
 TONELAKE_API std::string chordOfTheDayTitle(const std::optional<Chord>& chord,
                                             tonelake::WholeNumber maxChars);
+/// The tones, or "Find one in Zyndle" in the user's language.
 TONELAKE_API std::string chordOfTheDayTones(const std::optional<Chord>& chord);
 
 /// "Chord of the Day, C major. Learn More"; without a title "Chord of the Day. Learn More".

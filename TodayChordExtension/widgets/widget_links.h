@@ -8,6 +8,7 @@
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/foundation/api.h"
 
+// Pure functions: any thread may call.
 namespace todaychord {
 
 using tonelake::Chord;
@@ -28,18 +29,24 @@ TONELAKE_API std::string collectionLink(std::string_view title);
 TONELAKE_API std::string namedDestination(std::string_view name);
 
 // The destinations without a place in a table of their own.
+/// The app itself.
 inline constexpr std::string_view homeDestination = "home";
+/// All of the user's collections.
 inline constexpr std::string_view collectionsDestination = "collections";
+/// The search for a chord.
 inline constexpr std::string_view searchDestination = "search";
 
+/// A link to a collection.
 struct CollectionLink {
-  std::string title;
+  std::string title;  ///< decoded
   friend bool operator==(const CollectionLink&, const CollectionLink&) = default;
 };
+/// A link to a place of the app.
 struct NamedDestination {
-  std::string name;
+  std::string name;  ///< as given to namedDestination
   friend bool operator==(const NamedDestination&, const NamedDestination&) = default;
 };
+/// What a link leads to.
 using WidgetLink = std::variant<Chord, CollectionLink, NamedDestination>;
 
 /// What a link leads to, for hosts that open one: the reverse of the builders. Scheme and host may

@@ -9,10 +9,12 @@
 #include "TodayChordExtension/widgets/widget_sources.h"
 #include "Tonelake/foundation/api.h"
 
+// Any thread may call, and may ask a provider.
 namespace todaychord {
 
 /// An entry of any widget, for hosts that learn only at run time which one they serve.
 using WidgetEntry = std::variant<ChordEntry, LauncherEntry, RecentChordsEntry, CollectionsEntry>;
+/// A provider of any widget.
 using WidgetProvider = TimelineProvider<WidgetEntry>;
 
 /// The provider of the widget of this kind; nullptr for an unknown kind.

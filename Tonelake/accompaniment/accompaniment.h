@@ -12,12 +12,12 @@ namespace tonelake {
 
 /// What is to be played.
 struct Accompaniment {
-  std::vector<ChordShape> chords;  ///< one a bar, again and again
-  ArpeggioSequence arpeggio;       ///< its time signature is that of the piece
-  std::optional<BassPattern> bass;
-  std::optional<DrumPattern> drums;
-  WholeNumber tempo = 92;  ///< crotchets a minute
-  WholeNumber bars = 8;    ///< 0 and less give an empty piece
+  std::vector<ChordShape> chords;    ///< one a bar, again and again
+  ArpeggioSequence arpeggio;         ///< its time signature is that of the piece
+  std::optional<BassPattern> bass;   ///< none: silent
+  std::optional<DrumPattern> drums;  ///< none: silent
+  WholeNumber tempo = 92;            ///< crotchets a minute
+  WholeNumber bars = 8;              ///< 0 and less give an empty piece
 };
 
 /// Plays it. Each pattern is repeated from its end on until the last bar is full, whatever its
@@ -37,6 +37,7 @@ TONELAKE_API Performance perform(const Accompaniment& accompaniment);
 /// simplest where all are busier; null when there is none.
 TONELAKE_API const BassPattern* chooseBass(const ArpeggioSequence& arpeggio,
                                            WholeNumber complexity);
+/// @overload
 TONELAKE_API const DrumPattern* chooseDrums(const ArpeggioSequence& arpeggio,
                                             WholeNumber complexity);
 

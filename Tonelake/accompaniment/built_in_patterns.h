@@ -9,9 +9,9 @@ namespace tonelake {
 /// strum, with the bass lines and grooves that go with them. Each fills whole bars, and its name is
 /// its own among its kind.
 struct PatternLibrary {
-  ArpeggioSequences arpeggios;
-  BassPatterns basses;
-  DrumPatterns drums;
+  ArpeggioSequences arpeggios;  ///< ways to pick and strum
+  BassPatterns basses;          ///< bass lines
+  DrumPatterns drums;           ///< grooves
 };
 
 /// Decoded when first asked for; kept until the process ends. Any thread may call.

@@ -10,6 +10,7 @@ namespace tonelake {
 /// When which chord is to be heard. Refers to the piece: keep that alive.
 class ChordChart {
  public:
+  /// Of a piece that outlives the chart.
   explicit ChordChart(const Accompaniment& piece)
       : chords_(&piece.chords),
         bar_(ticksOfBar(piece.arpeggio.timeSignature)),

@@ -4,11 +4,12 @@
 #include "Tonelake/fingering/chord_position.h"
 #include "Tonelake/foundation/api.h"
 
+// Pure functions: any thread may call.
 namespace tonelake {
 
 /// A chord and the way in which the left hand holds it.
 struct ChordShape {
-  Chord chord;
+  Chord chord;             ///< what it sounds
   ChordPosition position;  ///< in standard tuning, at least one string sounding
 
   friend bool operator==(const ChordShape&, const ChordShape&) = default;

@@ -8,8 +8,10 @@
 
 // Music as it is to be played, note by note. Times are in ticks from the beginning.
 
+// Pure functions: any thread may call.
 namespace tonelake {
 
+/// The length of a quarter note, in ticks.
 inline constexpr WholeNumber ticksPerCrotchet = 480;
 
 /// 1920 for a semibreve to 60 for a demisemiquaver.
@@ -27,7 +29,9 @@ struct NoteEvent {
   int velocity = 0;        ///< 1 to 127
   int string = 0;          ///< the guitar's string, 0 the lowest; 0 for the bass
 
+  /// Where it is heard, in ticks from the beginning.
   WholeNumber sounds() const noexcept { return start + delay; }
+  /// Where it is silent again, in ticks from the beginning.
   WholeNumber end() const noexcept { return sounds() + length; }
 
   friend bool operator==(const NoteEvent&, const NoteEvent&) = default;
@@ -35,7 +39,7 @@ struct NoteEvent {
 
 /// One stroke on the drums. They ring by themselves.
 struct DrumEvent {
-  WholeNumber start = 0;
+  WholeNumber start = 0;                   ///< ticks from the beginning
   DrumNoteType type = DrumNoteType::rest;  ///< never a rest
   int velocity = 0;                        ///< 1 to 127
 
@@ -44,12 +48,12 @@ struct DrumEvent {
 
 /// A whole piece. The events of each list are in the order in which they start.
 struct Performance {
-  TimeSignature timeSignature = TimeSignature::ts_44;
-  WholeNumber tempo = 0;   ///< crotchets a minute
-  WholeNumber length = 0;  ///< ticks; every note has ended by then
-  std::vector<NoteEvent> guitar;
-  std::vector<NoteEvent> bass;
-  std::vector<DrumEvent> drums;
+  TimeSignature timeSignature = TimeSignature::ts_44;  ///< of every bar
+  WholeNumber tempo = 0;                               ///< crotchets a minute
+  WholeNumber length = 0;                              ///< ticks; every note has ended by then
+  std::vector<NoteEvent> guitar;                       ///< may sound together
+  std::vector<NoteEvent> bass;                         ///< one after another
+  std::vector<DrumEvent> drums;                        ///< may be struck together
 
   friend bool operator==(const Performance&, const Performance&) = default;
 };

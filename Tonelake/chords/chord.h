@@ -11,7 +11,7 @@ namespace tonelake {
 
 /// A chord: {Note::C, "minor 7th", 1} is C minor 7th with its third, E♭, in the bass.
 struct Chord {
-  Note rootNote = Note::C;
+  Note rootNote = Note::C;  ///< any of the 45; chords are offered on 17 of them
   std::string chordType;    ///< a key of the chord-type dictionary, for example "minor 7th"
   WholeNumber variant = 0;  ///< the chord tone in the bass, 0 the root; below the number of tones
 

@@ -18,12 +18,12 @@ struct ChordDefinition {
 
 /// One chord type as the rest of the library reads it.
 struct ChordData {
-  std::string title;  ///< the key, for example "minor major 7th"
-  std::string shortTitle;
+  std::string title;                    ///< the key, for example "minor major 7th"
+  std::string shortTitle;               ///< for example "min/maj7"
   bool includesSpace = false;           ///< "C major" but "C9"
   std::vector<std::string> otherNames;  ///< may hold "" (a bare root means major)
-  std::string formula;
-  WholeNumbers notes;
+  std::string formula;  ///< scale degrees joined by "-", for example "1-♭3-5-♭7"
+  WholeNumbers notes;   ///< semitones above the root, formula order; 14 is the ninth
 
   friend bool operator==(const ChordData&, const ChordData&) = default;
 };

@@ -21,6 +21,7 @@ namespace tonelake {
 /// any thread may read.
 class TONELAKE_API ChordDataManager {
  public:
+  /// Chords by every name that they go by.
   using ChordDictionary = std::unordered_map<std::string, Chord>;
 
   /// The library's own dictionary of 49 chord types, made on first use.
@@ -30,6 +31,7 @@ class TONELAKE_API ChordDataManager {
   /// why and the manager is empty: every look-up gives its empty result.
   ChordDataManager(std::string_view text, Diagnostics& diagnostics);
 
+  /// The data of every chord type, by its exact name.
   const std::map<std::string, ChordData, std::less<>>& chordData() const { return chordData_; }
 
   /// The data of one chord type (exact name), owned by the manager; nullptr when unknown.
@@ -78,8 +80,11 @@ TONELAKE_API const std::vector<std::string>& chordTypes();
 
 namespace Chords {
 
+/// ChordDataManager::shared().chordData().
 TONELAKE_API const std::map<std::string, ChordData, std::less<>>& getChordData();
+/// The data of one chord type (exact name), kept for good; nullptr when unknown.
 TONELAKE_API const ChordData* getChordData(std::string_view forChordType);
+/// ChordDataManager::shared().chordDictionary().
 TONELAKE_API const ChordDataManager::ChordDictionary& getChordDictionary();
 
 }  // namespace Chords

@@ -6,6 +6,7 @@
 #include "Tonelake/chords/chord_data_manager.h"
 #include "Tonelake/foundation/api.h"
 
+// Any thread may call.
 namespace tonelake {
 
 /// The name index of `manager` (see ChordDataManager::chordDictionary). About 40,000 names.

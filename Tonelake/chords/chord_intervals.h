@@ -6,6 +6,7 @@
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/foundation/api.h"
 
+// Pure functions: any thread may call.
 namespace tonelake::Chords {
 
 /// The interval names of the chord's tones, beginning with the bass: C major over E gives "Major

@@ -7,21 +7,26 @@
 #include "Tonelake/chords/chord_data.h"
 #include "Tonelake/foundation/api.h"
 
+// Pure functions: any thread may call.
 namespace tonelake {
 
 /// Everything a chord is named after: its type, its spelled tones and its variant.
 struct TONELAKE_API NamedChord {
+  /// A chord whose type `chordData` is, which has to outlive the name.
   NamedChord(const Chord& chord, const ChordData& chordData);
 
-  Note root;
-  WholeNumber variant;
-  const ChordData& data;
-  std::vector<std::string> tones;
+  Note root;                       ///< spelled as the chord has it
+  WholeNumber variant;             ///< as in Chord::variant
+  const ChordData& data;           ///< its type
+  std::vector<std::string> tones;  ///< spelled, root first
 };
 
 // The naming rules on a given dictionary entry; Chords below looks the entry up.
+/// As getTitleForChord below.
 TONELAKE_API std::string titleOf(const NamedChord& chord, WholeNumber maxChars);
+/// As getShortestTitleForChord below.
 TONELAKE_API std::string shortestTitleOf(const NamedChord& chord);
+/// As getAlternateTitlesForChord below.
 TONELAKE_API std::vector<std::string> alternateTitlesOf(const NamedChord& chord);
 
 namespace Chords {

@@ -7,6 +7,7 @@
 #include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/whole_number.h"
 
+// Any thread may call: positions come from the store that all share.
 namespace tonelake::Chords {
 
 /// MIDI numbers of the chord's first fingering in standard tuning, lowest string first, an octave

@@ -7,6 +7,7 @@
 #include "Tonelake/chords/chord_data.h"
 #include "Tonelake/foundation/api.h"
 
+// Pure functions: any thread may call.
 namespace tonelake {
 
 /// The chord tones of a type on a root, spelled after the degrees of its formula, root first. A

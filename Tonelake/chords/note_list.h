@@ -7,6 +7,7 @@
 #include "Tonelake/foundation/api.h"
 #include "Tonelake/theory/pitch_class_set.h"
 
+// Pure functions: any thread may call.
 namespace tonelake {
 
 /// What a typed list of notes such as "e, g, Bb" names.

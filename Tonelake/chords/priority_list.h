@@ -6,12 +6,13 @@
 #include "Tonelake/foundation/api.h"
 #include "Tonelake/theory/frets.h"
 
+// Made on first use and never changed: any thread may call.
 namespace tonelake {
 
 /// A chord and the fingerings to offer first for it, in order of preference.
 struct PriorityEntry {
-  Chord chord;
-  std::span<const Frets> fingerings;
+  Chord chord;                        ///< in root position
+  std::span<const Frets> fingerings;  ///< the best first; kept for good
 };
 
 /// Preferred fingerings of 31 chords. Roots are spelled with sharps, variants are 0: E♭ major has

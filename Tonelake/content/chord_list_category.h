@@ -12,6 +12,7 @@ namespace tonelake {
 /// The theme of a curated chord list. Not every theme has a list yet (see curatedChordLists).
 class TONELAKE_API ChordListCategory {
  public:
+  /// In the order of screens. The names are the raw values.
   enum Case : std::uint8_t {
     commonChords,
     beginnerEssentials,
@@ -33,6 +34,7 @@ class TONELAKE_API ChordListCategory {
     rnb,
   };
 
+  /// Implicit, so that a case serves where a category is due.
   constexpr ChordListCategory(Case category) noexcept  // NOLINT(google-explicit-constructor)
       : case_(category) {}
   constexpr operator Case() const noexcept { return case_; }  // NOLINT(google-explicit-constructor)

@@ -14,7 +14,7 @@ struct ChordProgression {
   std::string progression;  ///< numerals joined by "-", large for major: "I-V-vi-IV"
   /// Chords of the progression appear as "--vi--", see ChordProgressions::getDescription.
   std::string description;
-  std::vector<MusicStyles> styles;
+  std::vector<MusicStyles> styles;  ///< in which it is at home
 
   friend bool operator==(const ChordProgression&, const ChordProgression&) = default;
 };

@@ -18,6 +18,7 @@ namespace tonelake::ChordProgressions {
 /// other text. Descriptions are in the locale of the moment.
 TONELAKE_API std::vector<ChordProgression> getChordProgressionsDataForChordType(
     std::string_view chordType);
+/// @overload
 TONELAKE_API std::vector<ChordProgression> getChordProgressionsDataForChordType(
     std::string_view chordType, const StringTable& strings);
 

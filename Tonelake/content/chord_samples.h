@@ -6,6 +6,7 @@
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/foundation/api.h"
 
+// Pure functions: any thread may call.
 namespace tonelake::Chords {
 
 /// Two chords to show what a chord is: C major and C minor.

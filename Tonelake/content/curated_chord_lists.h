@@ -15,8 +15,8 @@ namespace tonelake {
 
 /// A themed collection of chords.
 struct ChordList {
-  std::string title;
-  std::string description;
+  std::string title;          ///< a few words, translated
+  std::string description;    ///< some sentences, translated
   std::string imageName;      ///< an image of the host application, for example "jazz"
   std::vector<Chord> chords;  ///< in display order, all in root position
   /// A pinned fingering, to be shown in place of the generated one: a fret per string, lowest

@@ -12,6 +12,7 @@ namespace tonelake {
 /// A style of music, or a mood, in which a chord progression is at home.
 class TONELAKE_API MusicStyles {
  public:
+  /// Styles, then moods.
   enum Case : std::uint8_t {
     folk,
     blues,
@@ -40,12 +41,14 @@ class TONELAKE_API MusicStyles {
     cinematic,
   };
 
+  /// Implicit, so that a case serves where a style is due.
   constexpr MusicStyles(Case style) noexcept
       : case_(style) {}                                       // NOLINT(google-explicit-constructor)
   constexpr operator Case() const noexcept { return case_; }  // NOLINT(google-explicit-constructor)
 
   /// Exactly a raw value, for example "Hip Hop"; nothing for any other text.
   static std::optional<MusicStyles> fromRawValue(std::string_view rawValue) noexcept;
+  /// Every style in declaration order.
   static std::span<const MusicStyles> allCases() noexcept;
 
   /// The name as readers see it, for example "R&B". Hosts store it: do not change.

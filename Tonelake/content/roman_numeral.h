@@ -8,6 +8,7 @@
 
 // Roman numerals as names of the chords of a key: "vi" is the minor chord on the sixth degree,
 // "♭VII" the major chord a half step below the seventh.
+// Pure functions: any thread may call.
 namespace tonelake::RomanNumeral {
 
 /// The number that capital letters stand for: "VI" is 6, "IV" 4, "" 0. Any other character than I,

@@ -22,21 +22,29 @@ inline constexpr int chordShapeGeneratorVersion = 2;
 /// state of its own: engines are cheap, and any thread may use one.
 class TONELAKE_API ChordEngine {
  public:
+  /// Names by semitone from C, two octaves.
   using NameTable = std::span<const std::string_view, 24>;
 
   /// On the process's platform, or on what it is given.
   ChordEngine();
+  /// @overload
   explicit ChordEngine(const Platform& platform);
 
   // Note names by semitone from C, two octaves. Notes in a search are written as in the first
   // table; the others serve to recognise a root or an open string in any spelling.
+  /// Naturals and sharps.
   const NameTable notesArrayRegular{tonelake::notesArrayRegular.begin(), 24};
+  /// With E♯ and B♯.
   const NameTable notesArraySharpNotes{tonelake::notesArraySharpNotes.begin(), 24};
+  /// With F♭ and C♭.
   const NameTable notesArrayFlatNotes{tonelake::notesArrayFlatNotes.begin(), 24};
+  /// C𝄪 for D, and triple sharps.
   const NameTable notesArrayDoubleSharpNotes{tonelake::notesArrayDoubleSharpNotes.begin(), 24};
+  /// E♭♭ for D, and triple flats.
   const NameTable notesArrayDoubleFlatNotes{tonelake::notesArrayDoubleFlatNotes.begin(), 24};
-  const std::string appVersion;
-  const std::string build;
+  const std::string appVersion;  ///< of the application; in the key of stored results
+  const std::string build;       ///< of the application; in the key of stored results
+  /// In the key of stored results.
   const int chordShapeGeneratorVersion = tonelake::chordShapeGeneratorVersion;
 
   /// The shapes of the chord that `intervals` (semitones above the root, none negative) make on

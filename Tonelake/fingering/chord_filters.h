@@ -14,8 +14,10 @@ namespace tonelake {
 /// it.
 class TONELAKE_API ChordFilters {
  public:
+  /// Names of chord types by label.
   using Filters = std::map<std::string, std::vector<std::string>, std::less<>>;
 
+  /// The one table; made on first use, kept for good.
   static const ChordFilters& shared();
 
   /// The chord-type names under a label such as "sus"; nothing for an unknown label.

@@ -21,6 +21,7 @@ class TONELAKE_API ChordPositionsCache {
   /// The process's cache.
   static ChordPositionsCache& shared();
 
+  /// What was set for a key; nothing where nothing was.
   std::optional<std::vector<ChordPosition>> get(std::string_view key) const;
 
   /// Replaces what was there.

@@ -9,6 +9,7 @@
 
 namespace tonelake {
 
+/// What a hand may do.
 struct FingerRules {
   /// Whether a barre may lie across a muted string, leaving its silence to the plucking hand:
   /// (8,x,10,9,10,8) is then held as 1,_,3,2,4,1, and by nobody otherwise.

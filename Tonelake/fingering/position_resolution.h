@@ -16,12 +16,12 @@ namespace tonelake {
 
 /// Which of a chord's positions to show. Frets as in ChordPosition::position, empty when absent.
 struct PositionRequest {
-  Chord chord{};
+  Chord chord{};  ///< what is to be played
   WholeNumbers
       selectedPosition{};         ///< what the user last chose: found again, or the first position
   WholeNumbers presetPosition{};  ///< found again, or the nearest; all muted counts as absent
-  bool usesChordPositionsCache = false;
-  TuningNames tuning = Tuning::standard;
+  bool usesChordPositionsCache = false;   ///< asks and fills ChordPositionsCache
+  TuningNames tuning = Tuning::standard;  ///< six names, lowest first
 };
 
 /// The choice itself, on the caller's thread. Cancellation is checked right after generating and

@@ -36,9 +36,10 @@ class OwnTextReader {
     while (!take("]")) {
       if (!positions.empty() && !take(",")) return std::nullopt;
       ChordPosition position;
-      const bool isRead = take("{") && take(positionKey) && takeNumbers(position.position) &&
-                          take(",") && take(fingeringKey) &&
-                          (take("]") || takeNumbers(position.fingering)) && take("}");
+      const bool isRead =
+          take("{") && take(positionKey) && takeNumbers(position.position, highestFret) &&
+          take(",") && take(fingeringKey) &&
+          (take("]") || takeNumbers(position.fingering, highestFinger)) && take("}");
       if (!isRead) return std::nullopt;
       positions.push_back(position);
     }
@@ -47,6 +48,8 @@ class OwnTextReader {
 
  private:
   static constexpr std::size_t shortestRecord = 42;  // bytes, six open strings without fingers
+  static constexpr std::int8_t highestFret = 99;     // in two digits
+  static constexpr std::int8_t highestFinger = 4;
 
   bool take(std::string_view expected) {
     if (!text_.starts_with(expected)) return false;
@@ -54,12 +57,12 @@ class OwnTextReader {
     return true;
   }
 
-  // Six numbers and the bracket after them.
-  bool takeNumbers(PerString& list) {
+  // Six numbers of at most `highest`, and the bracket after them.
+  bool takeNumbers(PerString& list, std::int8_t highest) {
     PerString::Numbers numbers{};
     for (std::size_t i = 0; i < numbers.size(); ++i) {
       const auto number = takeNumber();
-      if (!number || !take(i + 1 < numbers.size() ? "," : "]")) return false;
+      if (!number || *number > highest || !take(i + 1 < numbers.size() ? "," : "]")) return false;
       numbers[i] = *number;
     }
     list = numbers;

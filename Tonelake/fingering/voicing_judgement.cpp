@@ -128,8 +128,9 @@ int costOfSound(const Shape& shape, const Frets& frets, const Voicing& voicing,
                 const VoicingQuery& query) {
   constexpr int fullPowerChord = 3;
   constexpr int fullChord = 4;
-  const int upperMutes =
-      query.isPowerChord ? 0 : static_cast<int>(frets.size()) - std::bit_width(shape.sounding);
+  const auto strings = static_cast<int>(frets.size());
+  const auto highest = static_cast<int>(std::bit_width(shape.sounding));
+  const int upperMutes = query.isPowerChord ? 0 : strings - highest;
   const bool isThin = voicing.soundingStrings < (query.isPowerChord ? fullPowerChord : fullChord);
   return innerMute * voicing.innerMutes + upperMute * upperMutes +
          lowerMutes[lowestOf(shape.sounding)] + (isThin ? thinSound : 0) +

@@ -138,8 +138,11 @@ class VoicingSearch {
 
   template <int string>
   static bool continuesGroup(const Partial& partial, const Candidate& candidate) {
-    if constexpr (string == 0) return false;
-    return partial.frets[string - 1] == candidate.fret;
+    if constexpr (string == 0) {
+      return false;
+    } else {
+      return partial.frets[std::size_t{string} - 1] == candidate.fret;
+    }
   }
 
   // Every continuation from `string` upwards.

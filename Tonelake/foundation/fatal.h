@@ -4,6 +4,7 @@
 
 #include "Tonelake/foundation/api.h"
 
+// Any thread may call.
 namespace tonelake {
 
 /// Stops the process because of a programming error: a broken precondition, never bad input.

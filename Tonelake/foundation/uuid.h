@@ -13,7 +13,7 @@ namespace tonelake {
 /// A universally unique identifier, 128 bits. Records carry one where two of them may hold the
 /// same and yet be two.
 struct TONELAKE_API Uuid {
-  std::array<std::uint8_t, 16> bytes{};
+  std::array<std::uint8_t, 16> bytes{};  ///< in the order in which they are written
 
   /// A new one (version 4). Any thread may call.
   static Uuid random();

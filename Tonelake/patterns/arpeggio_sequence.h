@@ -15,9 +15,10 @@ namespace tonelake {
 
 /// One thing that the picking hand does.
 struct ArpeggioNote {
+  /// The time until the next step, unless another note of this one is shorter.
   NoteDuration noteDuration = NoteDuration::crochet;
-  ArpeggioDirection arpeggioDirection = ArpeggioDirection::t;
-  NoteArticulation noteArticulation = NoteArticulation::pick;
+  ArpeggioDirection arpeggioDirection = ArpeggioDirection::t;  ///< which strings
+  NoteArticulation noteArticulation = NoteArticulation::pick;  ///< whether they ring
   /// 1 (softest) to 127; more sounds like 127. 0 is a stroke through the air: the hand moves as
   /// ever, but nothing sounds and what rings goes on ringing.
   std::uint8_t noteVelocity = 0;
@@ -33,13 +34,13 @@ using ArpeggioStep = std::vector<ArpeggioNote>;
 /// Made from its fields it gets an id of
 /// its own, {name, description, notes, metre}; two are equal when their ids are.
 struct ArpeggioSequence {
-  std::string name;
-  std::string description;
-  std::vector<ArpeggioStep> sequence;
-  TimeSignature timeSignature = TimeSignature::ts_44;
-  std::vector<BassPatternWithComplexity> associatedBassPatterns;
-  std::vector<DrumPatternWithComplexity> associatedDrumPatterns;
-  Uuid id = Uuid::random();
+  std::string name;                    ///< its own in a library: patterns are looked up by it
+  std::string description;             ///< sentences for the learner
+  std::vector<ArpeggioStep> sequence;  ///< repeated from its end on
+  TimeSignature timeSignature = TimeSignature::ts_44;             ///< of the music that it is for
+  std::vector<BassPatternWithComplexity> associatedBassPatterns;  ///< any number, in any order
+  std::vector<DrumPatternWithComplexity> associatedDrumPatterns;  ///< any number, in any order
+  Uuid id = Uuid::random();                                       ///< what equality goes by
 
   friend bool operator==(const ArpeggioSequence& a, const ArpeggioSequence& b) {
     return a.id == b.id;
@@ -48,7 +49,7 @@ struct ArpeggioSequence {
 
 /// A library of ways to pick and strum.
 struct TONELAKE_API ArpeggioSequences {
-  std::vector<ArpeggioSequence> sequences;
+  std::vector<ArpeggioSequence> sequences;  ///< names may repeat; the first counts
 
   /// The first with exactly this name; null when there is none.
   const ArpeggioSequence* getSequence(std::string_view byName) const noexcept;

@@ -9,6 +9,7 @@
 // What the notes of accompaniment patterns are made of. Raw values and names of cases are the
 // encoded form: do not change them.
 
+// Pure functions: any thread may call.
 namespace tonelake {
 
 /// The length of a note as a fraction of a whole note.
@@ -26,10 +27,12 @@ TONELAKE_API double rawValue(NoteDuration duration) noexcept;
 /// The case with exactly this raw value; nothing for any other number.
 TONELAKE_API std::optional<NoteDuration> noteDurationFromRawValue(double rawValue) noexcept;
 
+/// Three or four crotchets a bar.
 enum class TimeSignature : std::uint8_t { ts_34, ts_44 };
 
 /// "3/4" or "4/4".
 TONELAKE_API std::string_view rawValue(TimeSignature timeSignature) noexcept;
+/// The case with exactly this raw value; nothing for any other text.
 TONELAKE_API std::optional<TimeSignature> timeSignatureFromRawValue(
     std::string_view rawValue) noexcept;
 
@@ -50,9 +53,11 @@ enum class DrumNoteType : std::uint8_t {
   rest = 0,  ///< silence
 };
 
+/// The number that it is stored as.
 constexpr std::uint8_t rawValue(DrumNoteType type) noexcept {
   return static_cast<std::uint8_t>(type);
 }
+/// The case with this raw value; nothing for any other number.
 TONELAKE_API std::optional<DrumNoteType> drumNoteTypeFromRawValue(std::int64_t rawValue) noexcept;
 
 /// What the picking hand does, read from a guitarist's hand on the shape of the chord. Only strings
@@ -85,6 +90,7 @@ enum class ArpeggioDirection : std::uint8_t {
 /// What a bass player plays of the chord. Within one octave above the open E string.
 enum class BassPitch : std::uint8_t { root, fifth, octave, third, rest };
 
+/// Whether a string goes on sounding.
 enum class NoteArticulation : std::uint8_t {
   pick,  ///< rings
   mute,  ///< damped by a hand: a short knock that has hardly a pitch
@@ -92,13 +98,17 @@ enum class NoteArticulation : std::uint8_t {
 
 /// The name of the case: "t", "iii".
 TONELAKE_API std::string_view caseName(ArpeggioDirection direction) noexcept;
+/// The name of the case: "root", "rest".
 TONELAKE_API std::string_view caseName(BassPitch pitch) noexcept;
+/// The name of the case: "pick", "mute".
 TONELAKE_API std::string_view caseName(NoteArticulation articulation) noexcept;
 
 /// Nothing for any other text.
 TONELAKE_API std::optional<ArpeggioDirection> arpeggioDirectionNamed(
     std::string_view name) noexcept;
+/// Nothing for any other text.
 TONELAKE_API std::optional<BassPitch> bassPitchNamed(std::string_view name) noexcept;
+/// Nothing for any other text.
 TONELAKE_API std::optional<NoteArticulation> noteArticulationNamed(std::string_view name) noexcept;
 
 }  // namespace tonelake

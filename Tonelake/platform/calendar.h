@@ -12,18 +12,19 @@ namespace tonelake {
 /// A moment as a clock on the wall shows it: month 1 to 12, day 1 to 31, hour 0 to 23, minute and
 /// second 0 to 59.
 struct LocalTime {
-  int year = 0;
-  int month = 1;
-  int day = 1;
-  int hour = 0;
-  int minute = 0;
-  int second = 0;
+  int year = 0;    ///< as the Gregorian calendar counts
+  int month = 1;   ///< 1 to 12
+  int day = 1;     ///< 1 to 31
+  int hour = 0;    ///< 0 to 23
+  int minute = 0;  ///< 0 to 59
+  int second = 0;  ///< 0 to 59
 
   friend bool operator==(const LocalTime&, const LocalTime&) = default;
 };
 
+/// A month of a year.
 struct YearMonth {
-  int year = 0;
+  int year = 0;   ///< as the Gregorian calendar counts
   int month = 1;  ///< 1 to 12
 
   friend bool operator==(const YearMonth&, const YearMonth&) = default;
@@ -36,6 +37,7 @@ class TONELAKE_API Calendar {
  public:
   virtual ~Calendar() = default;
 
+  /// The moment of the call, by the machine's clock.
   virtual Instant now() const = 0;
 
   /// IANA name, for example "Europe/Berlin".

@@ -15,6 +15,7 @@ class TONELAKE_API Diagnostics {
   virtual void write(std::string_view line) = 0;
 };
 
+/// A stream of the process.
 enum class DiagnosticStream { standardOutput, standardError };
 
 /// Lines on one of the standard streams. Standard output is the library's custom; hosts whose

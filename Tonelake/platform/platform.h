@@ -21,15 +21,15 @@ namespace tonelake {
 struct TONELAKE_API Platform {
   Platform();
 
-  std::shared_ptr<SettingsStore> standardSettings;  ///< generated positions
-  std::shared_ptr<SettingsStore> sharedSettings;    ///< what app and widgets share
-  std::shared_ptr<const Calendar> calendar;
-  ApplicationInformation application;
-  std::shared_ptr<const ResourceBundle> resources;
-  std::shared_ptr<const StringTable> strings;
-  std::shared_ptr<RandomSource> random;
-  std::shared_ptr<NotificationCenter> notifications;
-  std::shared_ptr<Diagnostics> diagnostics;
+  std::shared_ptr<SettingsStore> standardSettings;    ///< generated positions
+  std::shared_ptr<SettingsStore> sharedSettings;      ///< what app and widgets share
+  std::shared_ptr<const Calendar> calendar;           ///< what time it is, and which day
+  ApplicationInformation application;                 ///< part of the key of generated positions
+  std::shared_ptr<const ResourceBundle> resources;    ///< the packaged files
+  std::shared_ptr<const StringTable> strings;         ///< the user's language
+  std::shared_ptr<RandomSource> random;               ///< chooses titles and minutes of reminders
+  std::shared_ptr<NotificationCenter> notifications;  ///< takes reminders
+  std::shared_ptr<Diagnostics> diagnostics;  ///< takes what goes wrong without anybody's fault
   /// Makes the calling thread give way to others; does nothing unless the host knows how.
   std::function<void()> lowerThreadPriority;
 };

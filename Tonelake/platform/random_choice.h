@@ -5,6 +5,7 @@
 #include "Tonelake/foundation/api.h"
 #include "Tonelake/platform/random_source.h"
 
+// Any thread may call: sources of random numbers are safe.
 namespace tonelake {
 
 /// A whole number from 0 to `bound` - 1, each as likely as the others; `bound` is at least 1.

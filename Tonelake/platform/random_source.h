@@ -10,6 +10,7 @@ namespace tonelake {
 class TONELAKE_API RandomSource {
  public:
   virtual ~RandomSource() = default;
+  /// 0 to 2⁶⁴ - 1, each as likely as any other.
   virtual std::uint64_t next() = 0;
 };
 

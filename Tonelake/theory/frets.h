@@ -14,7 +14,9 @@ using Frets = std::array<std::int8_t, Tuning::stringCount>;
 /// same finger on several strings is a barre.
 using Fingers = std::array<std::int8_t, Tuning::stringCount>;
 
+/// The fret of a string that is not played.
 inline constexpr std::int8_t mutedString = -1;
+/// The fret of a string that no finger presses.
 inline constexpr std::int8_t openString = 0;
 
 }  // namespace tonelake

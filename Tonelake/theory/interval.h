@@ -6,6 +6,7 @@
 #include "Tonelake/foundation/api.h"
 #include "Tonelake/foundation/whole_number.h"
 
+// Pure functions: any thread may call.
 namespace tonelake::Interval {
 
 /// The name of the note `distance` semitones above `note` (a raw value of Note), written with the

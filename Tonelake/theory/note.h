@@ -16,6 +16,7 @@ namespace tonelake {
 class TONELAKE_API Note {
  public:
   // clang-format off
+  /// In the order in which notes are listed.
   enum Case : std::uint8_t {
     C, D, E, F, G, A, B,                                              // naturals
     Cs, Ds, Es, Fs, Gs, As, Bs,                                       // ♯
@@ -57,6 +58,7 @@ class TONELAKE_API Note {
   Case case_;
 };
 
+/// How many notes there are.
 inline constexpr std::size_t noteCount = 45;
 
 }  // namespace tonelake

@@ -7,20 +7,21 @@
 #include "Tonelake/foundation/whole_number.h"
 #include "Tonelake/theory/note.h"
 
+// Pure functions: any thread may call.
 namespace tonelake {
 
 /// A spelled note in an octave; MIDI number 60 is C in octave 4.
 struct NoteAndOctave {
-  Note note = Note::C;
-  std::uint8_t octave = 0;
+  Note note = Note::C;      ///< spelled
+  std::uint8_t octave = 0;  ///< 0 to 9; 4 begins at middle C
 
   friend bool operator==(const NoteAndOctave&, const NoteAndOctave&) = default;
 };
 
 /// A MIDI note number (0 to 127 where it is played) struck with a velocity, 0 to 255.
 struct NoteNumber {
-  WholeNumber noteNumber = 0;
-  std::uint8_t velocity = 0;
+  WholeNumber noteNumber = 0;  ///< 60 is middle C
+  std::uint8_t velocity = 0;   ///< how hard: 127 is the hardest that MIDI knows
 
   friend bool operator==(const NoteNumber&, const NoteNumber&) = default;
 };

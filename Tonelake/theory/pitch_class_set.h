@@ -13,10 +13,12 @@ constexpr PitchClassSet onlyPitchClass(int pitchClass) noexcept {
   return static_cast<PitchClassSet>(1U << static_cast<unsigned>(pitchClass));
 }
 
+/// Whether `set` holds every pitch class of `others`.
 constexpr bool includesAll(PitchClassSet set, PitchClassSet others) noexcept {
   return (others & ~set) == 0;
 }
 
+/// 0 to 12.
 constexpr int countPitchClasses(PitchClassSet set) noexcept {
   return std::popcount(set);
 }

@@ -9,7 +9,9 @@
 
 namespace tonelake {
 
+/// The names of an octave, from C on.
 using TwelveNames = std::array<std::string_view, 12>;
+/// The names of three octaves, from C on.
 using SpellingTable = std::array<std::string_view, 36>;
 
 /// Three octaves of names, so that a root (0 to 11) plus a distance of up to two octaves is an
@@ -22,14 +24,19 @@ constexpr SpellingTable threeOctaves(const TwelveNames& names) {
 
 // Note names by pitch class counted from C.
 // clang-format off
+/// Naturals and sharps, as notes of a search are written.
 inline constexpr SpellingTable notesArrayRegular = threeOctaves(
     {"C",   "C♯",   "D",   "D♯",  "E",    "F",   "F♯",  "G",   "G♯",   "A",   "A♯",  "B"});
+/// With E♯ and B♯.
 inline constexpr SpellingTable notesArraySharpNotes = threeOctaves(
     {"B♯",  "C♯",   "D",   "D♯",  "E",    "E♯",  "F♯",  "G",   "G♯",   "A",   "A♯",  "B"});
+/// Naturals and flats, with F♭ and C♭.
 inline constexpr SpellingTable notesArrayFlatNotes = threeOctaves(
     {"C",   "D♭",   "D",   "E♭",  "F♭",   "F",   "G♭",  "G",   "A♭",   "A",   "B♭",  "C♭"});
+/// Every pitch with a double sharp, or a triple one.
 inline constexpr SpellingTable notesArrayDoubleSharpNotes = threeOctaves(
     {"A♯𝄪", "B𝄪",   "C𝄪",  "C♯𝄪", "D𝄪",   "D♯𝄪", "E𝄪",  "F𝄪",  "F♯𝄪",  "G𝄪",  "G♯𝄪", "A𝄪"});
+/// Every pitch with a double flat, or a triple one.
 inline constexpr SpellingTable notesArrayDoubleFlatNotes = threeOctaves(
     {"D♭♭", "E♭♭♭", "E♭♭", "F♭♭", "G♭♭♭", "G♭♭", "A♭♭♭","A♭♭", "B♭♭♭", "B♭♭", "C♭♭", "D♭♭♭"});
 // clang-format on

@@ -8,11 +8,12 @@
 #include "Tonelake/foundation/api.h"
 #include "Tonelake/theory/tuning.h"
 
+// Pure functions: any thread may call.
 namespace tonelake {
 
 /// A tuning that players call by a name: {"drop D", {"D", "A", "D", "G", "B", "E"}}.
 struct NamedTuning {
-  std::string_view name;
+  std::string_view name;  ///< as it is typed, in any case: "drop D"
   std::array<std::string_view, Tuning::stringCount> notes;  ///< raw values of Note, lowest first
 };
 

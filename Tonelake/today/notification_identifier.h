@@ -7,14 +7,15 @@
 #include "Tonelake/foundation/api.h"
 #include "Tonelake/today/chord_category.h"
 
+// Pure functions: any thread may call.
 namespace tonelake {
 
 /// Which reminder a notification is: there is one a day in each category.
 struct ReminderKey {
-  ChordCategory category = ChordCategory::beginner;
-  int year = 0;
-  int month = 0;
-  int day = 0;
+  ChordCategory category = ChordCategory::beginner;  ///< of the chord
+  int year = 0;                                      ///< of the day that it is due on
+  int month = 0;                                     ///< 1 to 12
+  int day = 0;                                       ///< 1 to 31
 
   friend bool operator==(const ReminderKey&, const ReminderKey&) = default;
 };

@@ -7,11 +7,13 @@
 #include "Tonelake/foundation/api.h"
 #include "Tonelake/platform/string_table.h"
 
+// Pure functions: any thread may call.
 namespace tonelake {
 
 // What reminders of the chord of the day say. Keys of the string table, which are also the English
 // texts: do not change. In a body, %s stands where the chord's name goes, in translations too.
 // clang-format off
+/// Of which one is drawn by lot for each reminder.
 inline constexpr std::array<std::string_view, 7> notificationTitles{{
     "Master this chord today!",
     "Zyndle Chord Spotlight!",
@@ -21,6 +23,7 @@ inline constexpr std::array<std::string_view, 7> notificationTitles{{
     "Fresh Chord of the day!",
     "Sharpen your guitar skills",
 }};
+/// Of which one is drawn by lot for each reminder.
 inline constexpr std::array<std::string_view, 7> notificationBodies{{
     "Today's chord is %s. Dive into its sound and feel!",
     "Explore the beauty of %s chord today. Let's play!",

@@ -24,21 +24,24 @@ class TONELAKE_API TodayChordLibrary {
 
   /// On the process's platform, or on what it is given.
   TodayChordLibrary();
+  /// @overload
   TodayChordLibrary(const ResourceBundle& resources, std::shared_ptr<const Calendar> calendar);
 
-  const std::vector<Chord> beginnerChords;
-  const std::vector<Chord> advancedChords;
-  const std::vector<Chord> jazzChords;
+  const std::vector<Chord> beginnerChords;  ///< 366, by the day of the year
+  const std::vector<Chord> advancedChords;  ///< 366, by the day of the year
+  const std::vector<Chord> jazzChords;      ///< 366, by the day of the year
 
   /// The chord of the calendar day that holds `date`: entry (day of the year - 1), the same every
   /// year. Nothing when the calendar cannot place the date. The second form asks another calendar
   /// than the library's own.
   std::optional<Chord> chordOfTheDay(Instant date, ChordCategory category) const;
+  /// @overload
   std::optional<Chord> chordOfTheDay(Instant date, ChordCategory category,
                                      const Calendar& calendar) const;
 
   /// Beginner, then advanced, then jazz: 1098 chords, duplicates kept.
   std::vector<Chord> getAllChords() const;
+  /// A copy of jazzChords.
   std::vector<Chord> getJazzChords() const { return jazzChords; }
 
   /// Hands one notification for each remaining day of a month to the notification center, between
@@ -50,6 +53,7 @@ class TONELAKE_API TodayChordLibrary {
   static void scheduleChordNotificationsForMonth(const TodayChordLibrary& library,
                                                  ChordCategory selectedCategory,
                                                  WholeNumber monthOffset);
+  /// @overload
   static void scheduleChordNotificationsForMonth(const TodayChordLibrary& library,
                                                  ChordCategory selectedCategory,
                                                  WholeNumber monthOffset, const Platform& platform);

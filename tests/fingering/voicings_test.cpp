@@ -10,8 +10,10 @@
 #include "Tonelake/chords/chord_dictionary.h"
 #include "Tonelake/fingering/voicing_connection.h"
 #include "Tonelake/foundation/text.h"
+#include "tests/support/finger_checker.h"
 #include "tests/support/plain_voicing_checker.h"
 #include "tests/support/printing.h"
+#include "tests/support/random_chords.h"
 
 namespace tonelake::Voicings {
 namespace {
@@ -46,6 +48,8 @@ void expectPlainVoicings(const Chord& chord, const TuningNames& tuning,
               UnorderedElementsAreArray(testing::listVoicingsPlainly(chord, tuning, options)));
   for (const Voicing& voicing : voicings) {
     EXPECT_EQ(testing::wrongFact(voicing), "") << ::testing::PrintToString(voicing.position);
+    EXPECT_EQ(testing::brokenFingerRule(voicing.position, {.barreMayCoverMuted = true}), "")
+        << ::testing::PrintToString(voicing.position);
     EXPECT_EQ(voicing.bassTone, chord.variant);
   }
 }
@@ -70,6 +74,17 @@ TEST_P(EveryTypeAndBass, HasTheVoicingsOfThePlainChecker) {
       SCOPED_TRACE(::testing::PrintToString(chord));
       expectPlainVoicings(chord, GetParam(), options);
     }
+  }
+}
+
+TEST(Voicings, AreThoseOfThePlainCheckerInAnyTuning) {
+  for (unsigned seed = 0; seed < 400; ++seed) {
+    std::mt19937 random(seed);
+    const TuningNames tuning = testing::randomTuning(random);
+    const Chord chord = testing::randomChord(random);
+    const auto upTo = [&](unsigned highest) { return static_cast<int>(random() % (highest + 1)); };
+    SCOPED_TRACE(seed);
+    expectPlainVoicings(chord, tuning, {-1, upTo(6), upTo(4), upTo(1) == 0, upTo(12)});
   }
 }
 

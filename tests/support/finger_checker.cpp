@@ -167,4 +167,8 @@ std::string brokenFingerRule(const Frets& frets, const Fingers& fingers, FingerR
   return "";
 }
 
+std::string brokenFingerRule(const ChordPosition& shape, FingerRules rules) {
+  return brokenFingerRule(shape.position.numbers(), shape.fingering.numbers(), rules);
+}
+
 }  // namespace tonelake::testing

@@ -50,6 +50,8 @@ TEST(InstantText, RefusesEverythingElse) {
                                "2025-03-07T09:00:00+05:60",
                                "-001-03-07T09:00:00Z",
                                "12025-03-07T09:00:00Z",
+                               "0000-01-01T00:59:59+01:00",
+                               "9999-12-31T23:59:59-00:01",
                                "2025-3-07T09:00:00Z"};
   for (const char* text : texts) {
     EXPECT_EQ(reread(text), "") << text;

@@ -1,81 +1,73 @@
 # shellcheck shell=bash
 # Completion of zyndle in bash: source this file, or install it as "zyndle" in
-# /usr/share/bash-completion/completions. Commands and options are those that the program's help
-# lists, so only values are written down here. Chords are typed faster than chosen.
+# /usr/share/bash-completion/completions. All that is offered is asked of the program, so that
+# nothing has to be written down again here. Chords are typed faster than chosen.
 
-# _zyndle_help PROGRAM COMMAND...: the options of a command and the commands below it.
-_zyndle_help() {
-  local program=$1
-  shift
-  "$program" --lang en "$@" --help 2>/dev/null |
-    sed --quiet --regexp-extended \
-      -e '/^Subcommands:/,/^$/s/^  ([a-z]+) .*/\1/p' \
-      -e '/^Options:/,/^$/{s/^  (-[^ ]+) .*/\1/;s/,/\n/;/^-/p}'
+# In English, so that its answers can be read.
+_zyndle_ask() { # ARGUMENT...
+  "$program" --lang en "$@" 2>&1
 }
 
-# _zyndle_patterns PROGRAM SECTION: the names in a section of zyndle patterns: 1 ways to pick and
-# strum, 2 bass lines, 3 grooves; of all sections without a number.
-_zyndle_patterns() {
-  "$1" --lang en patterns 2>/dev/null |
-    awk -v wanted="${2-}" '/^[^ ]/ { ++section }
-      /^ / && (!wanted || section == wanted) { sub(/^ +/, ""); sub(/  +.*/, ""); print }'
+# The options of a command, and the commands below it.
+_zyndle_help() { # COMMAND...
+  _zyndle_ask "$@" --help | sed --quiet --regexp-extended \
+    -e '/^Subcommands:/,/^$/s/^  ([a-z]+) .*/\1/p' \
+    -e '/^Options:/,/^$/{s/^  (-[^ ]+) .*/\1/;s/,/\n/;/^-/p}'
 }
 
-# _zyndle_values PROGRAM PREVIOUS COMMAND WORD...: what may stand after the word PREVIOUS of a
-# command, one a line; nothing where anything may.
-_zyndle_values() {
-  local program=$1 previous=$2 command=${3-}
-  shift 3
-  case $command:$previous in
-    *:--lang) printf '%s\n' en de es fr ja ;;
-    *:--category | settings:todayChordCategory) printf '%s\n' beginner advanced jazz ;;
-    settings:left_handed) printf '%s\n' true false ;;
-    settings:get | settings:set | settings:delete)
-      printf '%s\n' todayChordCategory left_handed recentlyViewedChords chordCollections ;;
-    *:--family)
-      printf '%s\n' small medium large extraLarge extraLargePortrait accessoryCircular \
-        accessoryRectangular accessoryInline ;;
-    *:--format) printf '%s\n' svg png pdf json ;;
-    *:--tuning)
-      printf '%s\n' standard 'half step down' 'full step down' 'drop D' 'double drop D' 'drop C#' \
-        'drop C' DADGAD 'open A' 'open C' 'open D' 'open D minor' 'open E' 'open G' 'all fourths' \
-        'new standard' ;;
-    progressions:--style)
-      printf '%s\n' Folk Blues Pop Rock Jazz Classical Dramatic Emotional Ballad Melancholic Modal \
-        Medieval Traditional Romantic Cinematic ;;
-    jam:--style) _zyndle_patterns "$program" 1 ;;
-    jam:--bass) _zyndle_patterns "$program" 2 && echo none ;;
-    jam:--drums) _zyndle_patterns "$program" 3 && echo none ;;
-    pack:pack) "$program" packs 2>/dev/null | cut --delimiter=' ' --fields=1 ;;
-    patterns:patterns) _zyndle_patterns "$program" ;;
-    widget:widget) printf '%s\n' chord launcher recent collections ;;
+# What might stand in place of a last word that is wrong.
+_zyndle_choices() { # ARGUMENT...
+  _zyndle_ask "$@" '?' | sed --quiet 's/.*\(is not one of\|there are\) //;T;s/, /\n/g;p'
+}
+
+_zyndle_tunings() {
+  _zyndle_ask chord --help | sed --quiet '/ a common one:$/,/\.$/{/:$/!p}' |
+    tr '\n' ' ' | sed 's/, */\n/g;s/\. *$/\n/'
+}
+
+# The names in sections of zyndle patterns: 1 ways to pick and strum, 2 bass lines, 3 grooves.
+_zyndle_patterns() { # SECTIONS
+  _zyndle_ask patterns | awk -v sections="$1" '/^[^ ]/ { ++section }
+    /^ / && index(sections, section) { sub(/^ +/, ""); sub(/  +.*/, ""); print }'
+}
+
+# What may stand after a word; nothing where anything may.
+_zyndle_values() { # PREVIOUS COMMAND...
+  case ${2-}:$1 in
+    *:--lang) _zyndle_choices --lang ;;
+    *:--category) _zyndle_choices today --category ;;
+    *:--tuning) _zyndle_tunings ;;
+    pack:pack | widget:widget) _zyndle_choices "$1" ;;
+    widget:--f*) _zyndle_choices widget "${3-chord}" "$1" ;;
+    progressions:--style) _zyndle_choices progressions --style ;;
+    patterns:patterns) _zyndle_patterns 123 ;;
+    jam:--style) _zyndle_patterns 1 ;;
+    jam:--bass) _zyndle_patterns 2 && echo none ;;
+    jam:--drums) _zyndle_patterns 3 && echo none ;;
+    settings:get | settings:set | settings:delete) _zyndle_choices settings get ;;
+    settings:todayChordCategory | settings:left_handed) _zyndle_choices settings set "$1" ;;
+    :* | recent:recent | collections:collections | reminders:reminders | settings:settings)
+      _zyndle_help "${@:2}" | grep '^[^-]' ;;
   esac
 }
 
-_zyndle() {
-  local typed=$2 previous=$3 word commands=() IFS=$'\n'
+_zyndle() { # PROGRAM TYPED PREVIOUS
+  local program=$1 typed=$2 previous=$3 commands=() IFS=$'\n'
   local -i index
   for ((index = 1; index < COMP_CWORD; ++index)); do
-    word=${COMP_WORDS[index]}
-    if [[ $word == --lang ]]; then
-      ((++index))
-    elif [[ $word == -* ]]; then
-      break
-    else
-      commands+=("$word")
-    fi
+    case ${COMP_WORDS[index]} in
+      --lang) ((++index)) ;;
+      -*) break ;;
+      *) commands+=("${COMP_WORDS[index]}") ;;
+    esac
   done
-  COMPREPLY=()
-  # Readline puts quotes around names with blanks, as it does for files.
-  compopt -o filenames 2>/dev/null
+  # Readline then quotes names with blanks, as it does for files.
+  compopt -o filenames 2>/dev/null || true
   mapfile -t COMPREPLY < <(compgen -W "$(
-    if [[ $typed == -* ]]; then
-      _zyndle_help "$1" "${commands[@]:0:2}"
-    else
-      _zyndle_values "$1" "$previous" "${commands[0]-}"
-      [[ $previous == -* ]] || ((${#commands[@]} > 1)) ||
-        _zyndle_help "$1" "${commands[@]}" | grep '^[^-]'
-    fi
+    case $typed in
+      -*) _zyndle_help "${commands[@]:0:2}" ;;
+      *) _zyndle_values "$previous" "${commands[@]}" ;;
+    esac
   )" -- "$typed")
 }
 

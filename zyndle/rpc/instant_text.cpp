@@ -92,6 +92,12 @@ chrono::minutes readOffset(TextReader& reader) {
   return readHoursAndMinutes(reader);
 }
 
+// Only such moments can be written again.
+bool hasFourDigitYear(Instant instant) {
+  const auto year = chrono::year_month_day(chrono::floor<chrono::days>(instant)).year();
+  return year >= chrono::year(0) && year <= chrono::year(9999);
+}
+
 bool mayEndInLeapSecond(Instant minute) {
   const auto nextDay = minute + chrono::minutes(1);
   const auto day = chrono::floor<chrono::days>(nextDay);
@@ -113,6 +119,7 @@ std::optional<Instant> parseInstant(std::string_view text) {
   if (!reader.isReadWhole() || !date.ok()) return std::nullopt;
 
   const Instant minute = chrono::sys_days(date) + timeOfDay - offset;
+  if (!hasFourDigitYear(minute)) return std::nullopt;
   if (second < leapSecond) return minute + chrono::seconds(second) + fraction;
   if (!mayEndInLeapSecond(minute)) return std::nullopt;
   return minute + chrono::minutes(1) - chrono::microseconds(1);
