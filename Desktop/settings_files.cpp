@@ -64,7 +64,7 @@ std::shared_ptr<tonelake::SettingsStore> makeStandardSettings(
     const std::string& file, const std::shared_ptr<tonelake::Diagnostics>& diagnostics) {
   return makeLazySettingsStore([file, diagnostics]() -> std::shared_ptr<tonelake::SettingsStore> {
     auto [store, problem] = openSettingsFile(file, diagnostics);
-    if (store != nullptr) return store;
+    if (store != nullptr) return makeWriteBehindStore(std::move(store));
     diagnostics->write(problem + "; generated positions are not kept");
     return tonelake::makeMemorySettingsStore();
   });
