@@ -5,7 +5,6 @@
 #include "fuzz/json_agreement.h"
 #include "zyndle/rpc/calendar_at.h"
 #include "zyndle/rpc/json_rpc.h"
-#include "zyndle/rpc/method_context.h"
 #include "zyndle/rpc/method_table.h"
 
 // Messages to the scripting interface, one a line: every answer is one line of JSON under the id of
@@ -21,23 +20,15 @@ tonelake::Instant now() {
   return std::chrono::sys_days(std::chrono::year(2025) / 3 / 7) + std::chrono::hours(9);
 }
 
-MethodContext makeContext() {
-  return MethodContext(
-      {calendarAt(now(), tonelake::makeUtcCalendar()),
-       [](const std::string& zone) { return desktop::makeGregorianCalendar(zone, now); }});
+RpcContext makeHost() {
+  return {calendarAt(now(), tonelake::makeUtcCalendar()),
+          [](const std::string& zone) { return desktop::makeGregorianCalendar(zone, now); }};
 }
 
 std::string answerTo(std::string_view message) {
-  static MethodContext context = makeContext();
+  static const RpcMethodFinder methods = methodsFor(makeHost());
   std::string answer;
-  answerMessage(
-      message,
-      [](std::string_view name) -> RpcMethod {
-        const Method method = findMethod(name);
-        if (method == nullptr) return {};
-        return [method](const json::Node& parameters) { return method(parameters, context); };
-      },
-      [&](std::string_view text) { answer += text; });
+  answerMessage(message, methods, [&](std::string_view text) { answer += text; });
   return answer;
 }
 
