@@ -16,6 +16,7 @@ root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
   test_packages=(
     chromium clang-format dbus libgmock-dev libgtest-dev poppler-utils
     python3 python3-dbusmock python3-icalendar python3-mido)
+  coverage_packages=(gcovr)
   package_packages=(dpkg-dev file gzip lintian)
   docs_packages=(doxygen)
   check_packages=(clang-tidy shellcheck)
