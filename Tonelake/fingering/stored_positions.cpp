@@ -36,9 +36,10 @@ class OwnTextReader {
     while (!take("]")) {
       if (!positions.empty() && !take(",")) return std::nullopt;
       ChordPosition position;
-      const bool isRead = take("{") && take(positionKey) && takeNumbers(position.position) &&
-                          take(",") && take(fingeringKey) &&
-                          (take("]") || takeNumbers(position.fingering)) && take("}");
+      const bool isRead =
+          take("{") && take(positionKey) && takeNumbers(position.position, highestFret) &&
+          take(",") && take(fingeringKey) &&
+          (take("]") || takeNumbers(position.fingering, highestFinger)) && take("}");
       if (!isRead) return std::nullopt;
       positions.push_back(position);
     }
@@ -55,18 +56,18 @@ class OwnTextReader {
   }
 
   // Six numbers and the bracket after them.
-  bool takeNumbers(PerString& list) {
+  bool takeNumbers(PerString& list, int highest) {
     PerString::Numbers numbers{};
     for (std::size_t i = 0; i < numbers.size(); ++i) {
       const auto number = takeNumber();
-      if (!number || !take(i + 1 < numbers.size() ? "," : "]")) return false;
+      if (!number || *number > highest || !take(i + 1 < numbers.size() ? "," : "]")) return false;
       numbers[i] = *number;
     }
     list = numbers;
     return true;
   }
 
-  // -1 or up to two digits: all that a search writes.
+  // -1 or up to two digits, all that a search writes.
   std::optional<std::int8_t> takeNumber() {
     if (take("-1")) return mutedString;
     const auto digit = [this] {

@@ -171,6 +171,7 @@ TEST_F(RememberingEngine, ReplacesDamagedShapes) {
            std::string(R"([{"position":[1,1,1,1,1,true],"fingering":[]}])"),
            std::string(R"([{"position":[1,1,1,1,1,1000],"fingering":[]}])"),
            std::string(R"([{"position":[1,1,1,1,1,1],"fingering":[1]}])"),
+           std::string(R"([{"position":[1,1,1,1,1,1],"fingering":[5,1,1,1,1,1]}])"),
            std::string(R"([{"position":[1,1,1,1,1,1]}])"), std::string("[\"\xFF\"]")}) {
     store->stored = damaged;
     EXPECT_EQ(generate(), shapes) << damaged;
