@@ -26,6 +26,7 @@ struct ChordView {
   bool displayFingering = true;
   bool displayNotes = false;
   bool liquidGlass = false;  ///< dots and barres as translucent glass
+  /// What the strings sound, for the note labels: a string with an unknown name has none.
   tonelake::TuningNames tuning = tonelake::Tuning::standard;
   std::vector<int> highlightStrings;  ///< numbers 1 (highest) to 6 (lowest)
   ColorSchemeContrast colorSchemeContrast = ColorSchemeContrast::standard;
