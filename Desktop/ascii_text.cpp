@@ -18,6 +18,7 @@ constexpr StandIn standIns[] = {
     {"♯", "#"},
     {"♭", "b"},
     {"𝄪", "##"},
+    {"𝄫", "bb"},
     {"○", "o"},
     {"×", "x"},
     {"·", "-"},
@@ -43,6 +44,7 @@ constexpr StandIn standIns[] = {
     {"œ", "oe"},
     {"Œ", "Oe"},
     {"æ", "ae"},
+    {"Æ", "Ae"},
 };
 // clang-format on
 

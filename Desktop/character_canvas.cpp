@@ -20,14 +20,7 @@ std::string_view sequenceOf(Ink ink) {
 
 // A stray byte or an escape character must not reach the terminal.
 std::string_view printable(std::string_view character) {
-  constexpr unsigned char firstPrintable = 0x20;
-  constexpr unsigned char deleteCharacter = 0x7F;
-  if (character.size() > 1) {
-    // U+0080 to U+009F, C2 80 to C2 9F, are control characters too.
-    return character >= "\xC2\x80" && character <= "\xC2\x9F" ? "?" : character;
-  }
-  const auto byte = static_cast<unsigned char>(character.front());
-  return byte < firstPrintable || byte >= deleteCharacter ? "?" : character;
+  return tonelake::isPrintable(character) ? character : "?";
 }
 
 }  // namespace

@@ -7,9 +7,9 @@
 namespace desktop {
 
 /// Makes the file at `path` hold `contents` in one step: whoever reads it meanwhile sees the whole
-/// old file or the whole new one, and when it goes wrong the old one stays. Returns what went
-/// wrong, in one line that names the file.
-std::optional<std::string> replaceFile(const std::string& path, std::string_view contents);
+/// old file or the whole new one, and when it goes wrong the old one stays. The new one has the old
+/// one's mode. Returns the system's answer: 0 or an error number.
+int replaceFile(const std::string& path, std::string_view contents);
 
 /// Makes `folder` and those above it that are missing. Returns what went wrong, in one line.
 std::optional<std::string> makeFolder(const std::string& folder);

@@ -1,5 +1,7 @@
 #include "Desktop/files.h"
 
+#include <cerrno>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -41,6 +43,16 @@ std::optional<std::string> readFile(const std::string& path, std::size_t limit) 
   }
   contents.resize(length);
   return contents;
+}
+
+int writeAll(int descriptor, std::string_view text) {
+  while (!text.empty()) {
+    const ssize_t written = ::write(descriptor, text.data(), text.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return errno;
+    text.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return 0;
 }
 
 }  // namespace desktop

@@ -42,10 +42,9 @@ class FontLibrary {
  private:
   FT_Face openShipped(std::string_view file) {
     FT_Face face = nullptr;
-    for (const tonelake::EmbeddedResource& font : embeddedFonts()) {
-      if (font.fileName != file) continue;
-      FT_New_Memory_Face(library_, reinterpret_cast<const FT_Byte*>(font.contents.data()),
-                         static_cast<FT_Long>(font.contents.size()), 0, &face);
+    if (const auto font = tonelake::findResource(embeddedFonts(), file)) {
+      FT_New_Memory_Face(library_, reinterpret_cast<const FT_Byte*>(font->data()),
+                         static_cast<FT_Long>(font->size()), 0, &face);
     }
     if (face == nullptr) tonelake::stopWithProgrammingError("a typeface of the program is missing");
     return face;

@@ -34,11 +34,8 @@ bool isInvisible(std::string_view character) {
 
 // One character as it is set.
 std::string_view clean(std::string_view character) {
-  const auto byte = static_cast<unsigned char>(character.front());
-  if (character.size() > 1) return character;
-  if (byte == '\t' || byte == '\n' || byte == '\r') return " ";
-  constexpr unsigned char deleteControl = 0x7F;
-  return byte < ' ' || byte >= deleteControl ? replacement : character;
+  if (character == "\t" || character == "\n" || character == "\r") return " ";
+  return tonelake::isPrintable(character) ? character : replacement;
 }
 
 struct FoundGlyph {

@@ -1,9 +1,9 @@
 #include "Desktop/memory_file.h"
 
-#include <cerrno>
-
 #include <sys/mman.h>
 #include <unistd.h>
+
+#include "Desktop/files.h"
 
 namespace desktop {
 
@@ -19,13 +19,7 @@ std::string MemoryFile::path() const {
 }
 
 bool MemoryFile::write(std::string_view text) const {
-  while (!text.empty()) {
-    const ssize_t written = ::write(descriptor_, text.data(), text.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) return false;
-    text.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
+  return writeAll(descriptor_, text) == 0;
 }
 
 }  // namespace desktop

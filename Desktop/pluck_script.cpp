@@ -29,7 +29,7 @@ std::string pluckScript() {
          ", damping: " + formatNumber(spring.damping) + ", stiffness: " + stiffnessOfStrings() +
          ", displacement: " + formatNumber(todaychord::leastPluck) +
          ", pitch: " + formatNumber(metrics::stringPitch) + ", colour: '" +
-         formatColor(view.stringHighlightGradientPlain.back().color) + "'};\n" +
+         hexadecimal(view.stringHighlightGradientPlain.back().color) + "'};\n" +
          std::string(embeddedScripts().front().contents);
 }
 

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <cstdlib>
+#include <new>
 
 #include <libical/ical.h>
 
@@ -68,6 +69,7 @@ std::string writeReminderCalendar(const std::vector<CalendarReminder>& reminders
     icalcomponent_add_component(calendar.get(), makeEvent(reminder, written));
   }
   const Text text(icalcomponent_as_ical_string_r(calendar.get()));
+  if (text == nullptr) throw std::bad_alloc();
   return text.get();
 }
 

@@ -17,7 +17,7 @@ void writeStops(const todaychord::Gradient& stops, pugi::xml_node parent) {
   for (const todaychord::ColorStop& stop : stops) {
     pugi::xml_node node = parent.append_child("stop");
     setAttribute(node, "offset", stop.place);
-    setAttribute(node, "stop-color", formatColor(stop.color));
+    setAttribute(node, "stop-color", hexadecimal(stop.color));
     setOpacity(node, "stop-opacity", stop.color.opacity);
   }
 }

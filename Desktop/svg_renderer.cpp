@@ -143,7 +143,7 @@ class SvgWriter {
       setAttribute(node, name.c_str(), "url(#" + gradients_.idOf(paint) + ')');
       return;
     }
-    setAttribute(node, name.c_str(), formatColor(*color));
+    setAttribute(node, name.c_str(), hexadecimal(*color));
     setOpacity(node, (name + "-opacity").c_str(), color->opacity);
   }
 

@@ -40,14 +40,6 @@ bool isAllowed(std::string_view character) {
 
 }  // namespace
 
-std::string formatColor(const todaychord::Color& color) {
-  constexpr char digits[] = "0123456789ABCDEF";
-  constexpr int highestShift = 20;
-  std::string text = "#";
-  for (int shift = highestShift; shift >= 0; shift -= 4) text += digits[color.rgb >> shift & 0xFU];
-  return text;
-}
-
 std::string formatPath(const todaychord::Path& path) {
   std::string text;
   for (const todaychord::PathStep& step : path) text += std::visit(StepFormatter(), step);

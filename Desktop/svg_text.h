@@ -12,9 +12,6 @@ namespace desktop {
 
 // The pieces of text that SVG attributes hold.
 
-/// "#2A004E"; the opacity goes into an attribute of its own.
-std::string formatColor(const todaychord::Color& color);
-
 /// "M1 2L3 4C5 6 7 8 9 10Z".
 std::string formatPath(const todaychord::Path& path);
 

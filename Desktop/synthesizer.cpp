@@ -3,6 +3,7 @@
 #include <array>
 #include <cerrno>
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -77,7 +78,6 @@ std::string lastLine(const std::string& text) {
 // takes commands from standard input, so it gets neither.
 std::string run(const Synthesizer& synthesizer, std::vector<std::string> arguments,
                 const std::string& midi) {
-  constexpr std::size_t longestLog = 1U << 20U;
   const MemoryFile song("zyndle.mid");
   const MemoryFile log("zyndle.log");
   if (!song.isOpen() || !log.isOpen() || !song.write(midi)) return noMemory;
@@ -100,7 +100,7 @@ std::string run(const Synthesizer& synthesizer, std::vector<std::string> argumen
   if (error != 0) return synthesizer.program + " cannot be started: " + std::strerror(error);
   int status = 0;
   while (::waitpid(child, &status, 0) < 0 && errno == EINTR) continue;
-  const std::string said = readFile(log.path(), longestLog).value_or("");
+  const std::string said = readFile(log.path(), SIZE_MAX).value_or("");
   // It may end well after it has failed to open the loudspeakers or the soundfont.
   const bool hasFailed = said.find("error:") != std::string::npos;
   if (WIFEXITED(status) && WEXITSTATUS(status) == 0 && !hasFailed) return "";

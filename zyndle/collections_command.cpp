@@ -11,6 +11,7 @@
 #include "TodayChordExtension/widgets/shared_settings.h"
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/platform/platform.h"
+#include "zyndle/chord_name.h"
 #include "zyndle/command_error.h"
 #include "zyndle/host.h"
 #include "zyndle/output.h"

@@ -28,8 +28,7 @@ todaychord::ChordView viewOf(const Chord& chord, const ChordPosition& position,
   view.chord = chord;
   view.position = WholeNumbers(position.position.begin(), position.position.end());
   view.fingering = WholeNumbers(position.fingering.begin(), position.fingering.end());
-  // The labels count from the open strings of the standard tuning.
-  view.displayNotes = tuning == tonelake::Tuning::standard;
+  view.displayNotes = true;
   view.tuning = tuning;
   view.isLeftHanded = style.isLeftHanded;
   return view;

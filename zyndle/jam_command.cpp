@@ -56,10 +56,7 @@ constexpr const char* defaultStyle = "Campfire Strum";
 constexpr const char* nobody = "none";
 
 constexpr WholeNumber defaultTempo = 92;
-constexpr WholeNumber slowest = 20;
-constexpr WholeNumber fastest = 400;
 constexpr WholeNumber defaultBars = 8;
-constexpr WholeNumber mostBars = 256;
 constexpr WholeNumber defaultComplexity = 1;
 constexpr WholeNumber highestComplexity = 255;
 
@@ -138,10 +135,12 @@ Accompaniment readAccompaniment(const JamOptions& options, const std::vector<Cho
                         tonelake::chooseBass(arpeggio, complexity), arpeggio.timeSignature);
   piece.drums = readPart("--drums", library.drums.drumPatterns, options.drums,
                          tonelake::chooseDrums(arpeggio, complexity), arpeggio.timeSignature);
-  piece.tempo = readNumber("--tempo", options.tempo, defaultTempo, slowest, fastest);
+  piece.tempo = readNumber("--tempo", options.tempo, defaultTempo, tonelake::slowestTempo,
+                           tonelake::fastestTempo);
   const auto once = static_cast<WholeNumber>(chords.size());
-  piece.bars = readNumber("--bars", options.bars, std::max(defaultBars, std::min(once, mostBars)),
-                          1, mostBars);
+  piece.bars =
+      readNumber("--bars", options.bars, std::max(defaultBars, std::min(once, tonelake::mostBars)),
+                 1, tonelake::mostBars);
   const auto voicings = connectShapes(chords, Instrument(), shapesOfChord);
   for (std::size_t i = 0; i < chords.size(); ++i) {
     piece.chords.push_back({chords[i], voicings[i].position});
@@ -162,7 +161,7 @@ std::string shapeText(const tonelake::ChordShape& shape) {
 }
 
 std::string nameOf(const auto& pattern) {
-  return pattern ? pattern->name : nobody;
+  return pattern ? printable(pattern->name) : nobody;
 }
 
 // To the nearest.
@@ -182,7 +181,7 @@ std::string describeLength(const Accompaniment& piece, WholeNumber seconds) {
 std::string summary(const Accompaniment& piece, WholeNumber seconds) {
   std::vector<std::string> shapes;
   for (const auto& shape : piece.chords) shapes.push_back(shapeText(shape));
-  return labelledRow(translated("Style"), {piece.arpeggio.name}) +
+  return labelledRow(translated("Style"), {printable(piece.arpeggio.name)}) +
          labelledRow(translated("Bass"), {nameOf(piece.bass)}) +
          labelledRow(translated("Drums"), {nameOf(piece.drums)}) +
          labelledRow(translated("Length"), {describeLength(piece, seconds)}) +

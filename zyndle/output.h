@@ -9,8 +9,8 @@ namespace zyndle {
 /// message, but silent when the reader of a pipe has gone, since it has seen what it wanted.
 void writeStandardOutput(std::string_view text);
 
-/// Makes the file at `path` hold `text`, or writes to standard output when `path` is "-". A
-/// CommandError naming the file when that fails.
+/// Makes the file at `path` hold `text` in one step, see replaceFile, or writes to standard output
+/// when `path` is "-". A CommandError naming the file when that fails.
 void writeFile(const std::string& path, std::string_view text);
 
 /// `text` as one line of valid UTF-8: other bytes and control characters become U+FFFD.

@@ -16,6 +16,7 @@
 #include "zyndle/output.h"
 #include "zyndle/pattern_grid.h"
 #include "zyndle/pattern_names.h"
+#include "zyndle/text_columns.h"
 #include "zyndle/text_layout.h"
 #include "zyndle/translation.h"
 
@@ -78,8 +79,8 @@ std::string listOf(const std::string& title, const std::vector<Pattern>& pattern
   constexpr std::size_t nameWidth = 28;
   std::string text = title + "\n";
   for (const Pattern& pattern : patterns) {
-    std::string line = "  " + pattern.name;
-    const std::size_t width = tonelake::countCharacters(line);
+    std::string line = "  " + printable(pattern.name);
+    const std::size_t width = countColumns(line);
     line.append(width < nameWidth ? nameWidth - width : 1, ' ');
     text += line + timing(pattern) + "\n";
   }
@@ -94,13 +95,13 @@ std::string listAll(const PatternLibrary& library) {
 
 template <typename Pattern>
 std::string sheetOf(const Pattern& pattern) {
-  return pattern.name + " (" + timing(pattern) + ")\n\n" + paragraph(pattern.description) + "\n" +
-         drawGrid(pattern) + "\n" + gridLegend();
+  return printable(pattern.name) + " (" + timing(pattern) + ")\n\n" +
+         paragraph(printable(pattern.description)) + "\n" + drawGrid(pattern) + "\n" + gridLegend();
 }
 
 // "Bossa Bass (1)": a linked pattern and its complexity.
 std::string linkText(const std::string& name, int complexity) {
-  return name + " (" + std::to_string(complexity) + ")";
+  return printable(name) + " (" + std::to_string(complexity) + ")";
 }
 
 std::string companionsOf(const tonelake::ArpeggioSequence& arpeggio) {

@@ -77,13 +77,10 @@ ChordProgression lookUp(const std::string& progression, const Chord& key) {
   return {progression, "", {}};
 }
 
-// The easiest of each chord, among which the hand moves least.
-constexpr tonelake::WholeNumber shapesOfChord = 4;
-
 ShownProgression makeShown(const ProgressionOptions& options, const Instrument& instrument) {
   const KeyChords read = readKeyChords(options.numerals, options.key);
   return {read.key, lookUp(read.progression, read.key), read.chords,
-          connectShapes(read.chords, instrument, shapesOfChord), instrument};
+          connectShapes(read.chords, instrument, shapesToChooseFrom), instrument};
 }
 
 std::string headingOf(const ShownProgression& shown) {

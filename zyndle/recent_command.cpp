@@ -9,6 +9,7 @@
 #include "TodayChordExtension/widgets/shared_data.h"
 #include "TodayChordExtension/widgets/shared_settings.h"
 #include "Tonelake/foundation/text.h"
+#include "zyndle/chord_name.h"
 #include "zyndle/host.h"
 #include "zyndle/output.h"
 #include "zyndle/shared_list.h"

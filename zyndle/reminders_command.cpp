@@ -47,8 +47,9 @@ void addDelivery(CLI::App& command, Action& action) {
   CLI::App& deliver =
       *command.add_subcommand("deliver", translated("Show the reminders that are due"));
   const auto wait = std::make_shared<bool>(false);
-  deliver.add_flag("--wait", *wait,
-                   translated("Stay, show each in its time and open what is clicked"));
+  deliver
+      .add_flag("--wait", *wait, translated("Stay, show each in its time and open what is clicked"))
+      ->disable_flag_override();
   deliver.callback([wait, &action] { action = [wait] { deliverReminders(*wait); }; });
 
   CLI::App& install =

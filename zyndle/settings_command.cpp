@@ -57,7 +57,7 @@ const KnownSetting& readKey(const std::string& key) {
 // A value on one line; a long one, such as the app's data, only begins.
 std::string abbreviated(const std::string& value) {
   if (value.size() <= shownLength) return printable(value);
-  return translated("{0}... ({1} bytes)", printable(value.substr(0, shownLength / 2)),
+  return translated("{0}... ({1} bytes)", printable(tonelake::frontOf(value, shownLength / 2)),
                     value.size());
 }
 

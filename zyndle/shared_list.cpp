@@ -3,7 +3,6 @@
 #include "Tonelake/chords/chord_naming.h"
 #include "Tonelake/chords/chord_spelling.h"
 #include "Tonelake/foundation/json.h"
-#include "zyndle/chord_name.h"
 #include "zyndle/command_error.h"
 #include "zyndle/shared_settings_file.h"
 #include "zyndle/translation.h"
@@ -46,12 +45,6 @@ void SharedList::read(
 
 void SharedList::clear() const {
   failIf(openSharedSettings()->erase(key));
-}
-
-tonelake::Chord readChordName(const std::string& typed) {
-  const ParsedChordName parsed = parseChordName(typed);
-  if (!parsed.chord) refuse(parsed.problem);
-  return *parsed.chord;
 }
 
 std::string describeChord(const tonelake::Chord& chord) {

@@ -26,9 +26,6 @@ struct SharedList {
   void clear() const;
 };
 
-/// The chord that was typed; a CommandError for one that is not known.
-tonelake::Chord readChordName(const std::string& typed);
-
 /// The chord's title; what is known of a chord that has none: "G♭ no type, variant 3".
 std::string describeChord(const tonelake::Chord& chord);
 

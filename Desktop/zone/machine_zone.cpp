@@ -42,13 +42,6 @@ std::string firstLine(const std::string& path) {
   return text.substr(0, text.find_first_of(" \t\r\n"));
 }
 
-std::optional<NamedZone> zoneOfVariable(const ZoneSources& sources) {
-  std::string value = *sources.variable;
-  if (value.starts_with(':')) value.erase(0, 1);
-  if (value.empty()) return universalTime();
-  return findZone(sources.zoneFolder, withoutFolder(value, sources.zoneFolder));
-}
-
 std::optional<NamedZone> zoneOfSettings(const ZoneSources& sources) {
   const std::string target = linkTarget(sources.localTimeFile);
   if (auto zone = findZone(sources.zoneFolder, withoutFolder(target, sources.zoneFolder))) {
@@ -64,6 +57,24 @@ std::optional<NamedZone> zoneOfSettings(const ZoneSources& sources) {
   }
   if (auto zone = decodeZoneFile(*copy)) return NamedZone{"localtime", std::move(*zone)};
   return named;
+}
+
+std::optional<NamedZone> zoneOfVariable(const ZoneSources& sources) {
+  std::string value = *sources.variable;
+  if (value.starts_with(':')) value.erase(0, 1);
+  if (value.empty()) return universalTime();
+  if (auto zone = findZone(sources.zoneFolder, withoutFolder(value, sources.zoneFolder))) {
+    return zone;
+  }
+  if (value.starts_with('/')) {
+    ZoneSources file = sources;
+    file.localTimeFile = value;
+    file.zoneNameFile = "";
+    return zoneOfSettings(file);
+  }
+  const auto rule = YearlyRule::parse(value);
+  if (!rule) return std::nullopt;
+  return NamedZone{value, Zone(std::chrono::seconds(0), {}, rule)};
 }
 
 }  // namespace

@@ -9,7 +9,8 @@ namespace desktop {
 
 /// Where a machine says which time zone it is in.
 struct ZoneSources {
-  std::optional<std::string> variable;  ///< TZ: "Europe/Berlin", ":Europe/Berlin", a path, ""
+  std::optional<std::string> variable;  ///< TZ: "Europe/Berlin", ":Europe/Berlin", a path, a rule
+                                        ///< such as "CET-1CEST,M3.5.0,M10.5.0/3", or ""
   std::string zoneFolder = "/usr/share/zoneinfo";
   std::string localTimeFile = "/etc/localtime";  ///< a link to, or a copy of, a zone file
   std::string zoneNameFile = "/etc/timezone";    ///< one line, for example "Europe/Berlin"
@@ -19,7 +20,7 @@ struct ZoneSources {
 ZoneSources zoneSourcesOfThisMachine();
 
 struct NamedZone {
-  std::string name;  ///< for example "Europe/Berlin"
+  std::string name;  ///< for example "Europe/Berlin"; "localtime" for a file without a name
   Zone zone;
 };
 

@@ -27,7 +27,7 @@ struct ChordView {
   bool displayFingering = true;  ///< finger numbers on the dots
   bool displayNotes = false;     ///< names of the notes below the strings
   bool liquidGlass = false;      ///< dots and barres as translucent glass
-  /// The open strings. Labels are counted from those of the standard tuning all the same.
+  /// What the strings sound, for the note labels: a string with an unknown name has none.
   tonelake::TuningNames tuning = tonelake::Tuning::standard;
   std::vector<int> highlightStrings;  ///< numbers 1 (highest) to 6 (lowest)
   /// Increased: lines of frets are opaque.

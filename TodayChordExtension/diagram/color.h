@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 namespace todaychord {
@@ -15,6 +16,15 @@ struct Color {
 
   friend bool operator==(const Color&, const Color&) = default;
 };
+
+/// "#2A004E", without the opacity.
+inline std::string hexadecimal(const Color& color) {
+  constexpr char digits[] = "0123456789ABCDEF";
+  constexpr int highestShift = 20;
+  std::string text = "#";
+  for (int shift = highestShift; shift >= 0; shift -= 4) text += digits[color.rgb >> shift & 0xFU];
+  return text;
+}
 
 /// One colour of a gradient at a place from 0 (start or centre) to 1 (end or rim).
 struct ColorStop {

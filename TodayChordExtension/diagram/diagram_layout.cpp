@@ -1,10 +1,10 @@
 #include "TodayChordExtension/diagram/diagram_layout.h"
 
 #include <algorithm>
-#include <array>
 
 #include "Tonelake/chords/chord_spelling.h"
 #include "Tonelake/theory/note.h"
+#include "Tonelake/theory/spelling_tables.h"
 
 namespace todaychord {
 namespace {
@@ -76,13 +76,10 @@ std::vector<BarreSegment> placeBarres(const WholeNumbers& frets, const WholeNumb
 // The chord's own spelling of a pitch: the sharp name, else the first of its other spellings that
 // is a chord tone, else "".
 std::string spellInChord(std::size_t pitchClass, const std::vector<std::string>& tones) {
-  constexpr std::array<Note, 12> sharpNotes{Note::C,  Note::Cs, Note::D,  Note::Ds,
-                                            Note::E,  Note::F,  Note::Fs, Note::G,
-                                            Note::Gs, Note::A,  Note::As, Note::B};
   const auto isTone = [&](Note note) {
     return std::find(tones.begin(), tones.end(), note.rawValue()) != tones.end();
   };
-  const Note sharp = sharpNotes[pitchClass];
+  const Note sharp = Note::fromRawValue(tonelake::notesArrayRegular[pitchClass]).value();
   if (isTone(sharp)) return std::string(sharp.rawValue());
   const auto others = sharp.enharmonics();
   const auto found = std::find_if(others.begin(), others.end(), isTone);
@@ -90,14 +87,14 @@ std::string spellInChord(std::size_t pitchClass, const std::vector<std::string>&
 }
 
 std::vector<NoteLabel> placeNoteLabels(const ChordView& view) {
-  // Open strings E A D G B E as MIDI-like numbers.
-  constexpr std::array<WholeNumber, metrics::stringCount> openStrings{28, 33, 38, 43, 47, 52};
   constexpr WholeNumber octave = 12;
   const std::vector<std::string> tones = tonelake::Chords::getNotesOfChord(view.chord);
   std::vector<NoteLabel> labels;
-  for (std::size_t i = 0; i < std::min(view.position.size(), openStrings.size()); ++i) {
-    if (view.position[i] == muted) continue;
-    const WholeNumber pitch = openStrings[i] + view.position[i] % octave;
+  constexpr std::size_t strings = metrics::stringCount;
+  for (std::size_t i = 0; i < std::min({strings, view.position.size(), view.tuning.size()}); ++i) {
+    const auto open = Note::fromRawValue(view.tuning[i]);
+    if (view.position[i] == muted || !open) continue;
+    const WholeNumber pitch = open->pitchClass() + octave + view.position[i] % octave;
     const int string =
         (view.isLeftHanded ? metrics::stringCount - 1 - static_cast<int>(i) : static_cast<int>(i));
     labels.push_back({string, spellInChord(static_cast<std::size_t>(pitch % octave), tones),

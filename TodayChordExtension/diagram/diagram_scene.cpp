@@ -22,14 +22,6 @@ std::string titleOf(const Chord& chord) {
   return tonelake::Chords::isShowable(chord) ? tonelake::Chords::getTitleForChord(chord) : "";
 }
 
-std::string describe(const ChordView& view) {
-  std::string text;
-  for (const std::string& sentence : fingeringInstructions(view.position, view.fingering)) {
-    text += (text.empty() ? "" : " ") + sentence + ".";
-  }
-  return text;
-}
-
 double diagramHeight(const ChordView& view) {
   return view.displayNotes ? metrics::designHeightWithNotes : metrics::designHeight;
 }
@@ -63,7 +55,7 @@ TextItem cardText(const std::string& text, const Font& font, double baseline, co
 Scene drawDiagram(const ChordView& view, double width) {
   const DiagramLayout layout = layOutDiagram(view, width);
   return {metrics::designWidth * layout.scale, diagramHeight(view) * layout.scale,
-          titleOf(view.chord), describe(view),
+          titleOf(view.chord), describeFingering(view.position, view.fingering),
           placed(drawParts(view, layout), {{0, 0}, layout.scale})};
 }
 

@@ -5,6 +5,7 @@
 
 #include "TodayChordExtension/diagram/diagram_layout.h"
 #include "TodayChordExtension/diagram/diagram_metrics.h"
+#include "Tonelake/foundation/text.h"
 
 namespace todaychord {
 namespace {
@@ -102,6 +103,11 @@ std::vector<std::string> fingeringInstructions(const WholeNumbers& position,
     sentences.push_back("Mute the " + listStrings(instructions.muted));
   }
   return sentences;
+}
+
+std::string describeFingering(const WholeNumbers& position, const WholeNumbers& fingering) {
+  const auto sentences = fingeringInstructions(position, fingering);
+  return sentences.empty() ? "" : tonelake::join(sentences, ". ") + ".";
 }
 
 }  // namespace todaychord

@@ -15,6 +15,10 @@ namespace todaychord {
 TONELAKE_API std::vector<std::string> fingeringInstructions(
     const tonelake::WholeNumbers& position, const tonelake::WholeNumbers& fingering);
 
+/// The sentences as one text, each with its full stop; "" without any.
+TONELAKE_API std::string describeFingering(const tonelake::WholeNumbers& position,
+                                           const tonelake::WholeNumbers& fingering);
+
 /// "1st", "12th", "22nd", "112th".
 TONELAKE_API std::string ordinal(tonelake::WholeNumber number);
 

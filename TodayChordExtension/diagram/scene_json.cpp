@@ -17,18 +17,8 @@ Value encode(const Rectangle& frame) {
   return Value::array({frame.x, frame.y, frame.width, frame.height});
 }
 
-std::string hexadecimal(std::uint32_t rgb) {
-  constexpr std::string_view digits = "0123456789ABCDEF";
-  constexpr unsigned bitsPerDigit = 4;
-  std::string text = "#";
-  for (int shift = 20; shift >= 0; shift -= static_cast<int>(bitsPerDigit)) {
-    text += digits[rgb >> static_cast<unsigned>(shift) & 0xFU];
-  }
-  return text;
-}
-
 Value encode(const Color& color) {
-  return {{"color", hexadecimal(color.rgb)}, {"opacity", color.opacity}};
+  return {{"color", hexadecimal(color)}, {"opacity", color.opacity}};
 }
 
 Value encode(const Gradient& stops) {

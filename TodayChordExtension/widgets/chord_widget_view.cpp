@@ -55,12 +55,6 @@ const FamilyRow& rowOf(WidgetFamily family) {
   return rows[0];
 }
 
-std::string describe(const std::optional<ChordView>& diagram) {
-  if (!diagram) return "";
-  const auto sentences = fingeringInstructions(diagram->position, diagram->fingering);
-  return sentences.empty() ? "" : tonelake::join(sentences, ". ") + ".";
-}
-
 }  // namespace
 
 Scene drawChordWidget(const ChordEntry& entry, WidgetFamily family, const ViewSettings& settings) {
@@ -72,7 +66,9 @@ Scene drawChordWidget(const ChordEntry& entry, WidgetFamily family, const ViewSe
   SceneItems items = row.drawBackground(frame);
   append(items, row.drawContent(chord, frame));
   items.push_back({LinkArea{frame, chordLink(entry.chord), label}});
-  return {size.width, size.height, label, describe(chord.diagram), std::move(items)};
+  const std::string description =
+      chord.diagram ? describeFingering(chord.diagram->position, chord.diagram->fingering) : "";
+  return {size.width, size.height, label, description, std::move(items)};
 }
 
 }  // namespace todaychord

@@ -1,5 +1,7 @@
 #include "Tonelake/accompaniment/accompaniment.h"
 
+#include <algorithm>
+
 #include "Tonelake/accompaniment/chord_chart.h"
 #include "Tonelake/accompaniment/players.h"
 
@@ -23,8 +25,12 @@ const Link* chooseLink(const std::vector<Link>& links, WholeNumber complexity) {
 
 Performance perform(const Accompaniment& accompaniment) {
   const ChordChart chart(accompaniment);
-  Performance performance{
-      accompaniment.arpeggio.timeSignature, accompaniment.tempo, chart.length(), {}, {}, {}};
+  Performance performance{accompaniment.arpeggio.timeSignature,
+                          std::clamp(accompaniment.tempo, slowestTempo, fastestTempo),
+                          chart.length(),
+                          {},
+                          {},
+                          {}};
   if (chart.length() == 0) return performance;
   performance.guitar = playGuitar(accompaniment.arpeggio, chart);
   if (accompaniment.bass) performance.bass = playBass(*accompaniment.bass, chart);

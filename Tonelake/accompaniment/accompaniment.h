@@ -10,18 +10,23 @@
 
 namespace tonelake {
 
+inline constexpr WholeNumber slowestTempo = 20;   ///< crotchets a minute
+inline constexpr WholeNumber fastestTempo = 400;  ///< crotchets a minute
+inline constexpr WholeNumber mostBars = 256;      ///< in one piece
+
 /// What is to be played.
 struct Accompaniment {
   std::vector<ChordShape> chords;    ///< one a bar, again and again
   ArpeggioSequence arpeggio;         ///< its time signature is that of the piece
   std::optional<BassPattern> bass;   ///< none: silent
   std::optional<DrumPattern> drums;  ///< none: silent
-  WholeNumber tempo = 92;            ///< crotchets a minute
-  WholeNumber bars = 8;              ///< 0 and less give an empty piece
+  WholeNumber tempo = 92;            ///< crotchets a minute, slowestTempo to fastestTempo
+  WholeNumber bars = 8;              ///< 0, an empty piece, to mostBars
 };
 
-/// Plays it. Each pattern is repeated from its end on until the last bar is full, whatever its
-/// length is; one that takes no time is silent, as is everything without a chord.
+/// Plays it; a number outside its range counts as the nearest inside. Each pattern is repeated from
+/// its end on until the last bar is full, whatever its length is; one that takes no time is silent,
+/// as is everything without a chord.
 ///
 /// - The guitar plays what its hand does (see ArpeggioDirection). A string rings until it is struck
 ///   again, the hand rests or the chord changes; a muted stroke is over at once.

@@ -14,7 +14,7 @@ class ChordChart {
   explicit ChordChart(const Accompaniment& piece)
       : chords_(&piece.chords),
         bar_(ticksOfBar(piece.arpeggio.timeSignature)),
-        bars_(std::max<WholeNumber>(0, piece.bars)) {}
+        bars_(std::clamp<WholeNumber>(piece.bars, 0, mostBars)) {}
 
   /// Of the piece, in ticks; 0 without a chord.
   WholeNumber length() const { return chords_->empty() ? 0 : bars_ * bar_; }

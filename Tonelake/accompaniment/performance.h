@@ -49,7 +49,7 @@ struct DrumEvent {
 /// A whole piece. The events of each list are in the order in which they start.
 struct Performance {
   TimeSignature timeSignature = TimeSignature::ts_44;  ///< of every bar
-  WholeNumber tempo = 0;                               ///< crotchets a minute
+  WholeNumber tempo = 92;                              ///< crotchets a minute, see Accompaniment
   WholeNumber length = 0;                              ///< ticks; every note has ended by then
   std::vector<NoteEvent> guitar;                       ///< may sound together
   std::vector<NoteEvent> bass;                         ///< one after another

@@ -13,6 +13,7 @@ using Strings = std::vector<int>;
 constexpr int fingerCount = 3;
 constexpr std::size_t upstrokeStrings = 4;
 // From string to string; a stroke over six at 92 crotchets a minute takes some 30 milliseconds.
+// See muteLength.
 constexpr WholeNumber downstrokeDelay = 5;
 constexpr WholeNumber upstrokeDelay = 4;
 

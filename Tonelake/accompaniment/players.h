@@ -12,8 +12,9 @@ std::vector<NoteEvent> playGuitar(const ArpeggioSequence& arpeggio, const ChordC
 std::vector<NoteEvent> playBass(const BassPattern& pattern, const ChordChart& chart);
 std::vector<DrumEvent> playDrums(const DrumPattern& pattern, const ChordChart& chart);
 
-/// How long a damped string knocks, in ticks; less than any duration.
-inline constexpr WholeNumber muteLength = 40;
+/// How long a damped string knocks, in ticks. A step takes 60 at least, and the last string of a
+/// downstroke is reached after 25: it too is silent when the next step begins.
+inline constexpr WholeNumber muteLength = 35;
 
 /// A stored velocity brought into what is played: 1 (softest) to 127, 0 for silence.
 constexpr int playableVelocity(WholeNumber velocity) noexcept {

@@ -11,8 +11,8 @@ namespace tonelake {
 struct ChordDefinition {
   std::string shortName;    ///< key "short", for example "maj7"
   std::string otherNames;   ///< key "other_names": separated by ",", blanks kept
-  WholeNumbers notes;       ///< semitones above the root, formula order; 14 is the ninth
-  std::string formula;      ///< scale degrees joined by "-", for example "1-♭3-5-♭7"
+  WholeNumbers notes;       ///< semitones above the root, 0 to 24, formula order; 14 is the ninth
+  std::string formula;      ///< a scale degree for each note, joined by "-": "1-♭3-5-♭7"
   WholeNumber prefixSpace;  ///< key "prefix_space": 1 when a blank precedes the long type name
 };
 

@@ -17,13 +17,6 @@ constexpr std::array<Note, 17> rootNotes{Note::C,  Note::D,  Note::E,  Note::F, 
                                          Note::B,  Note::Cs, Note::Ds, Note::Fs, Note::Gs, Note::As,
                                          Note::Df, Note::Ef, Note::Gf, Note::Af, Note::Bf};
 
-std::string_view embeddedText() {
-  for (const EmbeddedResource& resource : embeddedResources()) {
-    if (resource.fileName == "chord_types.json") return resource.contents;
-  }
-  return "";
-}
-
 // An empty text means no names; anything else is cut at every comma, so that ",M" holds the
 // empty name: a bare root is a major chord.
 std::vector<std::string> splitNames(const std::string& otherNames) {
@@ -57,7 +50,9 @@ ChordFinder makeFinder(const ChordDataManager& manager) {
 }  // namespace
 
 const ChordDataManager& ChordDataManager::shared() {
-  static const ChordDataManager manager(embeddedText(), *processPlatform().diagnostics);
+  static const ChordDataManager manager(
+      findResource(embeddedResources(), "chord_types.json").value_or(""),
+      *processPlatform().diagnostics);
   return manager;
 }
 

@@ -1,29 +1,12 @@
 #include "Tonelake/chords/chord_spelling.h"
 
-#include <string_view>
-
 #include "Tonelake/chords/chord_data_manager.h"
+#include "Tonelake/chords/formula_degree.h"
 #include "Tonelake/foundation/fatal.h"
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/theory/interval.h"
 
 namespace tonelake {
-namespace {
-
-// The number in a formula piece: "♭♭7" is 7, "♯11" is 11, 0 without digits.
-WholeNumber degreeOf(std::string_view piece) {
-  constexpr std::string_view digits = "0123456789";
-  const std::size_t begin = piece.find_first_of(digits);
-  if (begin == std::string_view::npos) return 0;
-  WholeNumber degree = 0;
-  for (const char digit : piece.substr(begin, piece.find_first_not_of(digits, begin) - begin)) {
-    degree = degree * 10 + (digit - '0');
-  }
-  return degree;
-}
-
-}  // namespace
-
 std::vector<std::string> spellTones(Note root, const ChordData& data) {
   const auto pieces = split(data.formula, '-');
   if (pieces.size() > data.notes.size()) {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
-#include <utility>
+
+#include "Tonelake/foundation/case_table.h"
 
 namespace tonelake {
 namespace {
@@ -44,19 +44,8 @@ constexpr std::array<StyleNames, 25> names{{
 }};
 // clang-format on
 
-template <std::size_t... places>
-constexpr std::array<MusicStyles, names.size()> listCases(std::index_sequence<places...>) {
-  return {names[places].style...};
-}
-constexpr auto cases = listCases(std::make_index_sequence<names.size()>());
-
-constexpr bool followsCaseOrder() {
-  for (std::size_t i = 0; i < cases.size(); ++i) {
-    if (static_cast<std::size_t>(cases[i]) != i) return false;
-  }
-  return true;
-}
-static_assert(followsCaseOrder(), "row i names case i");
+constexpr auto cases = listCases<MusicStyles>(names, &StyleNames::style);
+static_assert(followsCaseOrder(cases), "row i names case i");
 
 }  // namespace
 

@@ -3,9 +3,6 @@
 namespace tonelake {
 namespace {
 
-constexpr int highestFret = 127;
-constexpr int highestFinger = 4;
-
 PerString decodePerString(const json::Node& node, int highest) {
   PerString::Numbers numbers{};
   if (node.size() != numbers.size()) node.fail("expected six numbers, one a string");

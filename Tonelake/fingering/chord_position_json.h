@@ -7,8 +7,11 @@
 
 namespace tonelake {
 
-/// Reads {"position":[-1,3,2,0,1,0],"fingering":[0,3,2,0,1,0]}: six frets of -1 to 127 and six
-/// fingers of -1 to 4, or none. Throws json::DecodingError.
+inline constexpr int highestFret = 127;
+inline constexpr int highestFinger = 4;
+
+/// Reads {"position":[-1,3,2,0,1,0],"fingering":[0,3,2,0,1,0]}: six frets of -1 to
+/// highestFret and six fingers of -1 to highestFinger, or none. Throws json::DecodingError.
 ChordPosition decodeChordPosition(const json::Node& node);
 
 /// The record above. Stored in settings: do not change its keys.

@@ -19,7 +19,9 @@ Positions cachedPositions(const PositionRequest& request, const ChordEngine& eng
   const std::string key = chordPositionsCacheKey(request.chord, request.tuning);
   if (auto cached = cache.get(key)) return *std::move(cached);
   Positions positions = Chords::getChordPositions(request.chord, -1, request.tuning, engine);
-  cache.set(positions, key);
+  // The key runs the names of the strings together: {"EADGBE"}, which is no tuning, has that of the
+  // standard one. Nothing is all that it gives, and that is not kept.
+  if (!positions.empty()) cache.set(positions, key);
   return positions;
 }
 

@@ -48,8 +48,6 @@ class OwnTextReader {
 
  private:
   static constexpr std::size_t shortestRecord = 42;  // bytes, six open strings without fingers
-  static constexpr std::int8_t highestFret = 99;     // in two digits
-  static constexpr std::int8_t highestFinger = 4;
 
   bool take(std::string_view expected) {
     if (!text_.starts_with(expected)) return false;
@@ -58,7 +56,7 @@ class OwnTextReader {
   }
 
   // Six numbers of at most `highest`, and the bracket after them.
-  bool takeNumbers(PerString& list, std::int8_t highest) {
+  bool takeNumbers(PerString& list, int highest) {
     PerString::Numbers numbers{};
     for (std::size_t i = 0; i < numbers.size(); ++i) {
       const auto number = takeNumber();
@@ -69,7 +67,7 @@ class OwnTextReader {
     return true;
   }
 
-  // -1 or up to two digits: all that a search writes.
+  // -1 or up to two digits, all that a search writes.
   std::optional<std::int8_t> takeNumber() {
     if (take("-1")) return mutedString;
     const auto digit = [this] {

@@ -106,12 +106,22 @@ std::vector<std::string_view> splitCharacters(std::string_view text) {
   return characters;
 }
 
+bool isPrintable(std::string_view character) noexcept {
+  // Views compare bytes, without signs; U+0080 to U+009F are C2 80 to C2 9F.
+  if (character.size() > 1) return character > "\xC2\x9F";
+  return character >= " " && character < "\x7F";
+}
+
+std::string_view frontOf(std::string_view text, std::size_t size) noexcept {
+  if (text.size() <= size) return text;
+  while (size > 0 && isContinuation(text[size])) --size;
+  return text.substr(0, size);
+}
+
 std::string quoted(std::string_view text) {
   constexpr std::size_t longest = 40;
-  if (text.size() <= longest) return '"' + std::string(text) + '"';
-  std::size_t end = longest;
-  while (end > 0 && isContinuation(text[end])) --end;
-  return '"' + std::string(text.substr(0, end)) + "...\"";
+  const std::string_view shown = frontOf(text, longest);
+  return '"' + std::string(shown) + (shown.size() < text.size() ? "...\"" : "\"");
 }
 
 char lowercase(char letter) noexcept {

@@ -32,6 +32,13 @@ std::size_t countCharacters(std::string_view text) noexcept;
 /// piece of its own: "é\xFF" gives "é" and "\xFF".
 TONELAKE_API std::vector<std::string_view> splitCharacters(std::string_view text);
 
+/// Whether one of those pieces may stand in a line of text: a well-formed character that is no
+/// control (U+0000 to U+001F and U+007F to U+009F).
+bool isPrintable(std::string_view character) noexcept;
+
+/// As much of the front of `text` as `size` bytes hold without cutting a character.
+std::string_view frontOf(std::string_view text, std::size_t size) noexcept;
+
 /// `text` between quotation marks for a message; a long one is cut after 40 bytes, between two
 /// characters, and ends in "...".
 std::string quoted(std::string_view text);

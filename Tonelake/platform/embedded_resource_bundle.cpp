@@ -9,10 +9,7 @@ class EmbeddedResourceBundle final : public ResourceBundle {
   std::optional<std::string> load(std::string_view name,
                                   std::string_view extension) const override {
     const std::string fileName = std::string(name).append(".").append(extension);
-    for (const EmbeddedResource& resource : embeddedResources()) {
-      if (resource.fileName == fileName) return std::string(resource.contents);
-    }
-    return std::nullopt;
+    return std::optional<std::string>(findResource(embeddedResources(), fileName));
   }
 };
 

@@ -3,6 +3,8 @@
 #include <array>
 #include <utility>
 
+#include "Tonelake/foundation/case_table.h"
+
 namespace tonelake {
 namespace {
 
@@ -104,13 +106,7 @@ constexpr bool tableIsConsistent() {
 }
 static_assert(tableIsConsistent());
 
-constexpr std::array<Note, noteCount> listCases() {
-  return []<std::size_t... i>(std::index_sequence<i...>) {
-    return std::array<Note, noteCount>{noteTable[i].note...};
-  }
-  (std::make_index_sequence<noteCount>());
-}
-constexpr std::array<Note, noteCount> cases = listCases();
+constexpr auto cases = listCases<Note>(noteTable, &NoteRow::note);
 
 constexpr auto enharmonicNotes = []<std::size_t... i>(std::index_sequence<i...>) {
   return std::array<std::array<Note, 3>, noteCount>{

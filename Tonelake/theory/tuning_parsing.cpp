@@ -41,30 +41,15 @@ constexpr std::array<NamedTuning, 16> namedTuningTable{{
 
 enum class FollowingB { isFlat, isNote };
 
-bool startsWith(std::string_view text, std::string_view start) {
-  return text.substr(0, start.size()) == start;
-}
-
-// The words of a text: blanks, commas and line breaks part them, and none is empty.
-std::vector<std::string_view> wordsOf(std::string_view text) {
-  constexpr std::string_view separators = " ,\t\r\n";
-  std::vector<std::string_view> words;
-  for (std::size_t at = text.find_first_not_of(separators); at != std::string_view::npos;
-       at = text.find_first_not_of(separators)) {
-    text.remove_prefix(at);
-    const std::size_t end = std::min(text.find_first_of(separators), text.size());
-    words.push_back(text.substr(0, end));
-    text.remove_prefix(end);
-  }
-  return words;
-}
+// What parts the words of a text.
+constexpr std::string_view separators = " ,\t\r\n";
 
 // "Half-Step  down" and "half step down" are the same name.
 std::string comparable(std::string_view name) {
   std::string plain = replaceAll(replaceAll(name, "-", " "), "#", "♯");
   std::transform(plain.begin(), plain.end(), plain.begin(), lowercase);
   std::string words;
-  for (const std::string_view word : wordsOf(plain)) words.append(word).append(" ");
+  for (const std::string_view word : splitWords(plain, separators)) words.append(word).append(" ");
   return words;
 }
 
@@ -79,7 +64,7 @@ std::optional<std::string> takeNote(std::string_view& text, FollowingB following
   };
   constexpr std::array<Sign, 4> signs{{{"#", "♯"}, {"♯", "♯"}, {"♭", "♭"}, {"b", "♭"}}};
   for (const Sign& sign : signs) {
-    if (!startsWith(text, sign.typed)) continue;
+    if (!text.starts_with(sign.typed)) continue;
     if (sign.typed == "b" && followingB == FollowingB::isNote) continue;
     text.remove_prefix(sign.typed.size());
     return letter + std::string(sign.sign);
@@ -143,7 +128,7 @@ ParsedTuning parseTuning(std::string_view text) {
   if (const NamedTuning* named = findNamed(text)) {
     return {TuningNames(named->notes.begin(), named->notes.end()), ""};
   }
-  const std::vector<std::string_view> words = wordsOf(text);
+  const std::vector<std::string_view> words = splitWords(text, separators);
   if (words.empty()) return {{}, "the tuning is empty"};
   Reading reading = readNotes(words, FollowingB::isFlat);
   if (words.size() == 1 && reading.names.size() != stringCount && !hasCapital(text)) {

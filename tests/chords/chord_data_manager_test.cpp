@@ -57,7 +57,11 @@ TEST(ChordDataManager, IsEmptyWhenItsTextCannotBeRead) {
   for (
       const char* text :
       {"", "{", "[]", R"({"chords":[]})", R"({"chords":{"major":{"short":"maj"}}})",
-       R"({"chords":{"x":{"short":"x","other_names":"","notes":[0.5],"formula":"1","prefix_space":1}}})"}) {
+       R"({"chords":{"x":{"short":"x","other_names":"","notes":[0.5],"formula":"1","prefix_space":1}}})",
+       R"({"chords":{"x":{"short":"x","other_names":"","notes":[],"formula":"","prefix_space":1}}})",
+       R"({"chords":{"x":{"short":"x","other_names":"","notes":[0],"formula":"1-3","prefix_space":1}}})",
+       R"({"chords":{"x":{"short":"x","other_names":"","notes":[0],"formula":"99999999999999999999","prefix_space":1}}})",
+       R"({"chords":{"x":{"short":"x","other_names":"","notes":[25],"formula":"1","prefix_space":1}}})"}) {
     testing::RecordingDiagnostics diagnostics;
     const ChordDataManager manager(text, diagnostics);
     EXPECT_THAT(manager.chordData(), IsEmpty()) << text;

@@ -135,7 +135,7 @@ TEST(TerminalDiagram, ColorsOnlyWhenAsked) {
 }
 
 TEST(AsciiText, StandsInForOurSigns) {
-  EXPECT_EQ(toAscii("C♯ E♭ F𝄪 x·y…é\xFF"), "C# Eb F## x-y...e?");
+  EXPECT_EQ(toAscii("C♯ E♭ F𝄪 B𝄫 Æx·y…é\xFF"), "C# Eb F## Bbb Aex-y...e?");
 }
 
 }  // namespace

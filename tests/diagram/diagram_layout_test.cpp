@@ -67,16 +67,23 @@ TEST(DiagramLayout, LabelsSoundingStringsAsTheChordSpellsThem) {
     WholeNumbers position;
     bool isLeftHanded;
     std::string labels;  // "index:name", in display order
+    tonelake::TuningNames tuning = tonelake::Tuning::standard;
   };
   const std::vector<Case> cases{
       {testing::cMajor, {-1, 3, 2, 0, 1, 0}, true, "0:E 1:C 2:G 3:E 4:C "},
       {{Note::C, "diminished 7th", 0}, {-1, 3, 4, 2, 4, 2}, false, "1:C 2:G♭ 3:B♭♭ 4:E♭ 5:G♭ "},
       // D is no chord tone: its slot stays, empty. Fret 13 sounds as fret 1.
       {testing::cMajor, {-1, -1, 0, 0, 13, 12}, false, "2: 3:G 4:C 5:E "},
+      {{Note::D, "suspended 4th", 0},
+       {0, 0, 0, 0, 0, 0},
+       false,
+       "0:D 1:A 2:D 3:G 4:A 5:D ",
+       {"D", "A", "D", "G", "A", "D"}},
   };
   for (const Case& each : cases) {
     ChordView view = viewOf(each.chord, each.position, {});
     view.isLeftHanded = each.isLeftHanded;
+    view.tuning = each.tuning;
     EXPECT_TRUE(layOutDiagram(view, 135).noteLabels.empty());
     view.displayNotes = true;
     std::string labels;

@@ -112,6 +112,7 @@ TEST(ChordPositionsCache, KeepsTheFullListUnderItsKey) {
   const Platform platform;
   const ChordEngine engine(platform);
   ChordPositionsCache cache;
+  choosePosition({cMajor, {}, {}, true, {"EADGBE"}}, engine, cache);
   choosePosition({cMajor, {}, {}, true}, engine, cache);
   EXPECT_EQ(chordPositionsCacheKey(cMajor, Tuning::standard), "C-major-0-EADGBE");
   EXPECT_EQ(cache.get("C-major-0-EADGBE"), positions(cMajor));

@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "Desktop/files.h"
 #include "Tonelake/chords/chord_json.h"
 #include "Tonelake/foundation/json.h"
 #include "Tonelake/foundation/text.h"
@@ -301,10 +302,22 @@ TEST_F(Command, WritesTheDrawingBesideTheText) {
   const ProgramResult both = run({"chord", "F", "--svg", file});
   EXPECT_EQ(both.output, run({"chord", "F"}).output);
   const ProgramResult drawing = run({"chord", "F", "--svg", "-"});
-  std::string written(std::filesystem::file_size(file), '\0');
-  std::ifstream(file).read(written.data(), static_cast<std::streamsize>(written.size()));
-  EXPECT_EQ(written, drawing.output);
-  EXPECT_THAT(written, AllOf(StartsWith("<svg"), HasSubstr("F major"), HasSubstr("barre")));
+  EXPECT_EQ(desktop::readFile(file, 1 << 20), drawing.output);
+  EXPECT_THAT(drawing.output, AllOf(StartsWith("<svg"), HasSubstr("F major"), HasSubstr("barre")));
+
+  // One that does not fit leaves the earlier one as it was; the next has its mode.
+  std::filesystem::permissions(file, std::filesystem::perms(0640));
+  const ProgramResult full = tonelake::testing::runProgram(
+      {{"/bin/bash", "-c", R"(ulimit -f 1; "$0" chord G --right-handed --svg "$1")", ZYNDLE_PROGRAM,
+        file},
+       {"TZ=UTC", "XDG_DATA_HOME=" + folder_.path()},
+       "",
+       ""});
+  EXPECT_THAT(full.errors, HasSubstr(file + "\": File too large"));
+  EXPECT_EQ(desktop::readFile(file, 1 << 20), drawing.output);
+  run({"chord", "G", "--svg", file});
+  EXPECT_NE(desktop::readFile(file, 1 << 20), drawing.output);
+  EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms(0640));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "Desktop/files.h"
 #include "Tonelake/foundation/text.h"
 #include "tests/zyndle/command_runner.h"
 
@@ -68,6 +69,10 @@ TEST_F(JamCommand, DrawsPatternsAndReadsThemBack) {
   const std::string library = write("mine.json", run({"patterns", "Rolling Six", "--json"}).output);
   EXPECT_THAT(run({"patterns", "--library", library}).output,
               StartsWith("Ways to pick and strum\n  Rolling Six               3/4, 1 bar\n\n"));
+  const std::string unclean = tonelake::replaceAll(*desktop::readFile(library, 1 << 20),
+                                                   "Rolling Six", R"(転がる\u001b[2J)");
+  EXPECT_THAT(run({"patterns", "--library", write("unclean.json", unclean)}).output,
+              HasSubstr("  転がる\uFFFD[2J                3/4, 1 bar\n"));
 }
 
 TEST_F(JamCommand, RefusesInOneLine) {

@@ -8,9 +8,8 @@
 #include "Tonelake/platform/platform.h"
 #include "zyndle/command_error.h"
 #include "zyndle/host.h"
-#include "zyndle/hosting/gallery_files.h"
+#include "zyndle/hosting/folder_options.h"
 #include "zyndle/output.h"
-#include "zyndle/scale_option.h"
 #include "zyndle/translation.h"
 
 namespace zyndle {
@@ -25,16 +24,8 @@ Examples:
   zyndle gallery widgets && xdg-open widgets/index.html
   zyndle gallery widgets --scale 3       as PNG too, three pixels a point)");
 
-struct Options {
-  std::string folder;
-  std::optional<std::string> scale;
-};
-
-void showGallery(const Options& options) {
-  if (options.folder.empty()) refuse(translated("{} is empty", "DIR"));
-  const std::optional<double> scale =
-      options.scale ? std::optional(readScale(*options.scale)) : std::nullopt;
-  const GalleryOptions gallery{options.folder, scale, std::nullopt};
+void showGallery(const FolderOptions& options) {
+  const GalleryOptions gallery = readFolderOptions(options);
   installHost(true);
   const auto sources = todaychord::WidgetSources::ofProcess();
   WidgetTimelines timelines(sources);
@@ -47,17 +38,11 @@ void showGallery(const Options& options) {
 }  // namespace
 
 void addGalleryCommand(CLI::App& app, Action& action) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<FolderOptions>();
   CLI::App& command =
       *app.add_subcommand(galleryCompanion.name, translated(galleryCompanion.description));
   command.footer(translated(examples));
-  command.add_option("DIR", options->folder, translated("The folder, made where it is missing"))
-      ->required()
-      ->type_name("");
-  command
-      .add_option("--scale", options->scale,
-                  translated("Write PNG too, with so many pixels a point"))
-      ->type_name("NUMBER");
+  addFolderOptions(command, *options);
   command.callback([options, &action] { action = [options] { showGallery(*options); }; });
 }
 

@@ -6,13 +6,10 @@
 #include "Desktop/svg_renderer.h"
 #include "zyndle/command_error.h"
 #include "zyndle/hosting/embedded_web.h"
+#include "zyndle/output.h"
 
 namespace zyndle {
 namespace {
-
-void failIf(const std::optional<std::string>& problem) {
-  if (problem) fail(*problem);
-}
 
 std::string drawPng(const todaychord::Scene& scene, double scale) {
   desktop::RenderedPicture png = desktop::renderPng(scene, scale);
@@ -24,19 +21,18 @@ std::string drawPng(const todaychord::Scene& scene, double scale) {
 
 void prepareGallery(const GalleryOptions& options) {
   const std::string fonts = options.folder + "/fonts/";
-  failIf(desktop::makeFolder(fonts));
+  if (const auto problem = desktop::makeFolder(fonts)) fail(*problem);
   for (const auto& files : {desktop::embeddedFonts(), embeddedWeb()}) {
     for (const tonelake::EmbeddedResource& file : files) {
       const bool isForFonts = file.fileName.ends_with(".ttf") || file.fileName.ends_with(".txt");
-      if (isForFonts)
-        failIf(desktop::replaceFile(fonts + std::string(file.fileName), file.contents));
+      if (isForFonts) writeFile(fonts + std::string(file.fileName), file.contents);
     }
   }
 }
 
 void writeGallery(const GalleryOptions& options, const std::vector<GalleryPicture>& pictures) {
   const auto write = [&](const std::string& name, const std::string& contents) {
-    failIf(desktop::replaceFile(options.folder + '/' + name, contents));
+    writeFile(options.folder + '/' + name, contents);
   };
   for (const GalleryPicture& picture : pictures) {
     write(picture.fileName("svg"),

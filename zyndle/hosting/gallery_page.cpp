@@ -48,13 +48,6 @@ bool isAccessory(WidgetFamily family) {
   return family.rawValue().starts_with("accessory");
 }
 
-std::string readWebFile(std::string_view name) {
-  for (const tonelake::EmbeddedResource& file : embeddedWeb()) {
-    if (file.fileName == name) return std::string(file.contents);
-  }
-  return "";
-}
-
 std::string writeFigures(const std::vector<GalleryPicture>& pictures, bool areAccessories) {
   std::string text;
   for (const GalleryPicture& picture : pictures) {
@@ -79,14 +72,15 @@ std::string writeGalleryPage(const std::vector<GalleryPicture>& pictures,
   const std::string language = translated("en");
   // TRANSLATORS: {} is an address, and stays {} here.
   const std::string leadsTo = translated("This leads to {}");
-  return fmt::format(page, fmt::arg("language", language), fmt::arg("refresh", refresh),
-                     fmt::arg("title", translated("Zyndle widgets")),
-                     fmt::arg("style", readWebFile("gallery.css")),
-                     fmt::arg("lockScreen", translated("Lock screen")),
-                     fmt::arg("accessories", writeFigures(pictures, true)),
-                     fmt::arg("widgets", writeFigures(pictures, false)),
-                     fmt::arg("leadsTo", leadsTo), fmt::arg("pluck", desktop::pluckScript()),
-                     fmt::arg("script", readWebFile("gallery.js")));
+  return fmt::format(
+      page, fmt::arg("language", language), fmt::arg("refresh", refresh),
+      fmt::arg("title", translated("Zyndle widgets")),
+      fmt::arg("style", tonelake::findResource(embeddedWeb(), "gallery.css").value_or("")),
+      fmt::arg("lockScreen", translated("Lock screen")),
+      fmt::arg("accessories", writeFigures(pictures, true)),
+      fmt::arg("widgets", writeFigures(pictures, false)), fmt::arg("leadsTo", leadsTo),
+      fmt::arg("pluck", desktop::pluckScript()),
+      fmt::arg("script", tonelake::findResource(embeddedWeb(), "gallery.js").value_or("")));
 }
 
 }  // namespace zyndle

@@ -9,11 +9,10 @@
 #include "Tonelake/platform/platform.h"
 #include "zyndle/command_error.h"
 #include "zyndle/host.h"
-#include "zyndle/hosting/gallery_files.h"
+#include "zyndle/hosting/folder_options.h"
 #include "zyndle/hosting/reminder_process.h"
 #include "zyndle/hosting/system_wake_ups.h"
 #include "zyndle/output.h"
-#include "zyndle/scale_option.h"
 #include "zyndle/translation.h"
 
 namespace zyndle {
@@ -31,11 +30,6 @@ Examples:
   zyndle host ~/widgets --scale 2        as PNG too, for a panel or a desktop)");
 
 constexpr int secondsToReload = 60;
-
-struct Options {
-  std::string folder;
-  std::optional<std::string> scale;
-};
 
 // Draws the widgets again when their timelines say so.
 class GalleryKeeper {
@@ -68,11 +62,8 @@ class GalleryKeeper {
   bool isStale_ = true;
 };
 
-void hostWidgets(const Options& options) {
-  if (options.folder.empty()) refuse(translated("{} is empty", "DIR"));
-  const std::optional<double> scale =
-      options.scale ? std::optional(readScale(*options.scale)) : std::nullopt;
-  const GalleryOptions gallery{options.folder, scale, secondsToReload};
+void hostWidgets(const FolderOptions& options) {
+  const GalleryOptions gallery = readFolderOptions(options, secondsToReload);
   installHost(true);
   const auto sources = todaychord::WidgetSources::ofProcess();
   // Opening the settings makes the folder that is then watched.
@@ -96,17 +87,11 @@ void hostWidgets(const Options& options) {
 }  // namespace
 
 void addHostCommand(CLI::App& app, Action& action) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<FolderOptions>();
   CLI::App& command =
       *app.add_subcommand(hostCompanion.name, translated(hostCompanion.description));
   command.footer(translated(examples));
-  command.add_option("DIR", options->folder, translated("The folder, made where it is missing"))
-      ->required()
-      ->type_name("");
-  command
-      .add_option("--scale", options->scale,
-                  translated("Write PNG too, with so many pixels a point"))
-      ->type_name("NUMBER");
+  addFolderOptions(command, *options);
   command.callback([options, &action] { action = [options] { hostWidgets(*options); }; });
 }
 

@@ -4,6 +4,7 @@
 #include <exception>
 #include <string>
 
+#include "Tonelake/foundation/text.h"
 #include "zyndle/rpc/request_ids.h"
 
 namespace zyndle {
@@ -20,11 +21,8 @@ std::string resultAnswer(std::string_view id, const json::Value& result) {
 // A message may quote what it complains about, and that may be megabytes long.
 std::string shortened(std::string_view message) {
   constexpr std::size_t longest = 500;
-  if (message.size() <= longest) return std::string(message);
-  std::size_t end = longest;
-  // Not in the middle of a character, whose further bytes are 10xxxxxx.
-  while (end > 0 && (static_cast<unsigned char>(message[end]) & 0xC0U) == 0x80U) --end;
-  return std::string(message.substr(0, end)) + "…";
+  const std::string_view front = tonelake::frontOf(message, longest);
+  return std::string(front) + (front.size() < message.size() ? "…" : "");
 }
 
 std::string errorAnswer(std::string_view id, RpcError error, std::string_view message) {

@@ -1,6 +1,7 @@
 #include "Desktop/zone/machine_zone.h"
 
 #include <filesystem>
+#include <set>
 #include <tuple>
 
 #include <gtest/gtest.h>
@@ -14,7 +15,11 @@ namespace {
 constexpr std::size_t anySize = 1 << 20;
 
 TEST(MachineZone, HonoursTheVariableFirst) {
-  const std::tuple<const char*, const char*, bool> rows[] = {
+  const TemporaryFolder folder;
+  const std::string tokyo = "/usr/share/zoneinfo/Asia/Tokyo";
+  std::filesystem::create_symlink(tokyo, folder.path("link"));
+  folder.write("copy", *readFile(tokyo, anySize));
+  const std::tuple<std::string, const char*, bool> rows[] = {
       {"Europe/Berlin", "Europe/Berlin", false},
       {":Europe/Berlin", "Europe/Berlin", false},
       {"/usr/share/zoneinfo/Europe/Berlin", "Europe/Berlin", false},
@@ -22,16 +27,24 @@ TEST(MachineZone, HonoursTheVariableFirst) {
       {"UTC", "UTC", false},
       {"", "UTC", false},
       {"CET-1CEST", "UTC", true},
+      {"JST-9", "JST-9", false},
+      {":" + folder.path("link"), "Asia/Tokyo", false},
+      {folder.path("copy"), "localtime", false},
+      {folder.path("nothing"), "UTC", true},
       {"Europe/Atlantis", "UTC", true},
       {"zone.tab", "UTC", true},
   };
   ZoneSources sources;
-  sources.localTimeFile = "/usr/share/zoneinfo/Asia/Tokyo";
+  sources.localTimeFile = tokyo;
   for (const auto& [variable, name, warns] : rows) {
     sources.variable = variable;
     const MachineZone machine = findMachineZone(sources);
     EXPECT_EQ(machine.zone.name, name) << variable;
     EXPECT_EQ(!machine.warning.empty(), warns) << variable << machine.warning;
+    const bool isJapanese =
+        std::set<std::string>{"Asia/Tokyo", "JST-9", "localtime"}.contains(name);
+    EXPECT_EQ(machine.zone.zone.periodAt({}).offset == std::chrono::hours(9), isJapanese)
+        << variable;
   }
 }
 
