@@ -13,8 +13,8 @@
 namespace fuzz {
 
 /// Hands one input to the code under test and requires of the results what always holds. Any other
-/// end than returning soon is a finding: an exception, a stop for a programming error, an error that
-/// a sanitizer sees, five seconds gone by.
+/// end than returning soon is a finding: an exception, a stop for a programming error, an error
+/// that a sanitizer sees, five seconds gone by.
 void examine(std::string_view input);
 
 /// Real values, which the search starts from.
