@@ -177,7 +177,7 @@ void addWidgetCommand(CLI::App& app, Action& action, Arguments arguments,
       ->type_name("FAMILY");
   command
       .add_option("--format", options->format,
-                  translated("svg, png, pdf or json; else as FILE ends, or svg"))
+                  translated("svg, png, pdf or json; else by FILE, or svg"))
       ->type_name("FORMAT");
   command.add_option("--scale", options->scale, translated("Pixels a point, for png; else 2"))
       ->type_name("NUMBER");
