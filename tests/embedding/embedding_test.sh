@@ -51,7 +51,7 @@ expect 'the interface for C shows three functions' '???????????????? T tonelake_
 ???????????????? T tonelake_free
 ???????????????? T tonelake_version' hidden_symbols libtonelake_call.so ' [TDBR] '
 
-cmake -S "$examples" -B "$world/cmake" -DCMAKE_PREFIX_PATH="$prefix" >"$world/log"
+cmake -G Ninja -S "$examples" -B "$world/cmake" -DCMAKE_PREFIX_PATH="$prefix" >"$world/log"
 cmake --build "$world/cmake" --parallel >"$world/log" || cat "$world/log"
 expect 'find_package, shared' 'F♯ A C E 2 * ' "$world/cmake/chord" F#m7b5
 expect 'find_package, static' 'Use a barre *135 x 138 points, *' "$world/cmake/diagram"
