@@ -42,12 +42,12 @@ std::optional<std::int8_t> parseFret(std::string_view word) {
 }  // namespace
 
 Frets readFrets(const std::string& text) {
-  const std::string typed = "--frets " + quoted(text);
+  const std::string typed = "--frets " + tonelake::quoted(text);
   const std::vector<std::string_view> words = wordsOf(text);
   for (const std::string_view word : words) {
     if (parseFret(word)) continue;
     refuse(translated("{0}: {1} is neither a fret from 0 to 24 nor x, a muted string", typed,
-                      quoted(word)));
+                      tonelake::quoted(word)));
   }
   Frets frets{};
   if (words.size() != frets.size()) {

@@ -44,7 +44,7 @@ TEST(TuningParsing, NamesWhatIsWrong) {
       {"E2 A2 D3 G3 B3 E4", "\"E2\" is not a note name"},
       {"\xff\xfe", "neither"},
       {std::string(1000, 'E'), "EEE...\" names 1000 strings"},
-      {std::string(12, ' ') + std::string(99, 'b'), "strings"},
+      {std::string(12, ' ').append(99, 'b'), "strings"},
   };
   for (const auto& [typed, problem] : rows) {
     SCOPED_TRACE(typed);
