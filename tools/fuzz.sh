@@ -22,7 +22,7 @@ done
 
 (
   lock_build_folder
-  install_packages "${zyndle_packages[@]}" "${fuzz_packages[@]}"
+  install_packages "${zyndle_packages[@]}" "${clang_packages[@]}"
   say "building ${#names[@]} fuzzers"
   build fuzz "${names[@]/%/_fuzzer}"
 )

@@ -20,7 +20,7 @@ root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
   package_packages=(dpkg-dev file gzip lintian)
   docs_packages=(doxygen)
   check_packages=(clang-tidy shellcheck)
-  fuzz_packages=(clang libclang-rt-14-dev llvm)
+  clang_packages=(clang libclang-rt-14-dev llvm)
 }
 
 say() { printf '%s: %s\n' "${0##*/}" "$*" >&2; }
