@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "Tonelake/chords/chord_dictionary.h"
 #include "Tonelake/chords/chord_types_json.h"
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/platform/embedded_resources.h"
@@ -76,8 +75,37 @@ const ChordData* ChordDataManager::chordData(std::string_view chordType) const {
 }
 
 const ChordDataManager::ChordDictionary& ChordDataManager::chordDictionary() const {
-  std::call_once(dictionaryOnce_, [this] { chordDictionary_ = makeChordDictionary(*this); });
+  std::call_once(dictionaryOnce_, [this] { chordDictionary_ = makeDictionary(); });
   return chordDictionary_;
+}
+
+ChordDataManager::ChordDictionary ChordDataManager::makeDictionary() const {
+  ClaimedNames all;
+  for (std::size_t i = 0; i < rootNotes.size(); ++i) {
+    for (const auto& [name, chord] : namesOn(i)) claimName(all, name, chord);
+  }
+  ChordDictionary dictionary;
+  for (const auto& [name, claimed] : all) dictionary.emplace(name, claimed.chord);
+  return dictionary;
+}
+
+// "C♯" begins with "C" as well, where it might be a type's sign: both roots have a say.
+std::optional<Chord> ChordDataManager::chordNamed(std::string_view name) const {
+  ClaimedNames claims;
+  const std::string key(name);
+  for (std::size_t i = 0; i < rootNotes.size(); ++i) {
+    if (!name.starts_with(rootNotes[i].rawValue())) continue;
+    const auto found = namesOn(i).find(key);
+    if (found != namesOn(i).end()) claimName(claims, key, found->second);
+  }
+  return claims.empty() ? std::nullopt : std::optional(claims.begin()->second.chord);
+}
+
+const ClaimedNames& ChordDataManager::namesOn(std::size_t rootIndex) const {
+  static_assert(std::tuple_size_v<decltype(rootNames_)> == rootNotes.size());
+  RootNames& root = rootNames_[rootIndex];
+  std::call_once(root.once, [&] { root.names = namesOnRoot(*this, rootNotes[rootIndex]); });
+  return root.names;
 }
 
 std::span<const Note> ChordDataManager::allRootNotes() const {

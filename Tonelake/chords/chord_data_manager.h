@@ -1,7 +1,10 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <map>
 #include <mutex>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -11,6 +14,7 @@
 #include "Tonelake/chords/chord.h"
 #include "Tonelake/chords/chord_data.h"
 #include "Tonelake/chords/chord_finder.h"
+#include "Tonelake/chords/claimed_names.h"
 #include "Tonelake/chords/priority_list.h"
 #include "Tonelake/foundation/api.h"
 #include "Tonelake/platform/diagnostics.h"
@@ -47,6 +51,10 @@ class TONELAKE_API ChordDataManager {
   /// first use, since only typed names need it.
   const ChordDictionary& chordDictionary() const;
 
+  /// The chord that the dictionary has under `name`, which is written with "♯" and "♭". Makes the
+  /// names of its root only, on first use.
+  std::optional<Chord> chordNamed(std::string_view name) const;
+
   /// Preferred fingerings by chord.
   std::span<const PriorityEntry> priorityList() const { return tonelake::priorityList(); }
 
@@ -68,9 +76,18 @@ class TONELAKE_API ChordDataManager {
   std::vector<Chord> findChordsMatching(std::string_view notes) const;
 
  private:
+  struct RootNames {
+    std::once_flag once;
+    ClaimedNames names;
+  };
+
+  const ClaimedNames& namesOn(std::size_t rootIndex) const;
+  ChordDictionary makeDictionary() const;
+
   std::map<std::string, ChordData, std::less<>> chordData_;
   std::vector<std::string> chordTypes_;
   ChordFinder finder_;
+  mutable std::array<RootNames, 17> rootNames_;  // one for each of allRootNotes()
   mutable std::once_flag dictionaryOnce_;
   mutable ChordDictionary chordDictionary_;
 };
