@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tests/support/printing.h"
+#include "Tonelake/foundation/text.h"
 #include "tests/support/recording_diagnostics.h"
 
 namespace tonelake {
@@ -39,14 +39,12 @@ TEST(ChordDataManager, HasFormulasThatMatchTheirSemitones) {
   const int majorScale[] = {0, 2, 4, 5, 7, 9, 11};
   for (const auto& [title, data] : ChordDataManager::shared().chordData()) {
     WholeNumbers expected;
-    for (std::size_t begin = 0; begin <= data.formula.size();) {
-      const std::size_t end = std::min(data.formula.find('-', begin), data.formula.size());
-      std::string token = data.formula.substr(begin, end - begin);
-      begin = end + 1;
+    for (const std::string_view token : split(data.formula, '-')) {
       int change = 0;
-      for (; token.starts_with("♭"); token.erase(0, std::string("♭").size())) --change;
-      for (; token.starts_with("♯"); token.erase(0, std::string("♯").size())) ++change;
-      const int degree = std::stoi(token) - 1;
+      for (const std::string_view sign : splitCharacters(token)) {
+        change += sign == "♯" ? 1 : sign == "♭" ? -1 : 0;
+      }
+      const int degree = std::stoi(replaceAll(replaceAll(token, "♭", ""), "♯", "")) - 1;
       expected.push_back(majorScale[degree % 7] + 12 * (degree / 7) + change);
     }
     EXPECT_EQ(data.notes, expected) << title;
@@ -67,26 +65,6 @@ TEST(ChordDataManager, IsEmptyWhenItsTextCannotBeRead) {
     EXPECT_THAT(manager.chordData(), IsEmpty()) << text;
     EXPECT_THAT(manager.chordDictionary(), IsEmpty()) << text;
     EXPECT_THAT(diagnostics.lines(), ElementsAre(StartsWith("Failed to parse JSON:"))) << text;
-  }
-}
-
-TEST(PriorityList, PrefersShapesOfItsChordsOnly) {
-  constexpr int openStrings[] = {4, 9, 2, 7, 11, 4};
-  EXPECT_THAT(priorityList(), SizeIs(31));
-  EXPECT_THAT(preferredFingerings({Note::C, "major", 0}), SizeIs(4));
-  EXPECT_THAT(preferredFingerings({Note::C, "major", 1}), IsEmpty());
-  EXPECT_THAT(preferredFingerings({Note::Ef, "major", 0}), IsEmpty());
-  for (const PriorityEntry& entry : priorityList()) {
-    const auto& notes = Chords::getChordData(entry.chord.chordType)->notes;
-    for (const Frets& frets : entry.fingerings) {
-      for (std::size_t i = 0; i < frets.size(); ++i) {
-        if (frets[i] == mutedString) continue;
-        const int above = openStrings[i] + frets[i] - entry.chord.rootNote.pitchClass() + 12;
-        EXPECT_TRUE(std::any_of(notes.begin(), notes.end(),
-                                [=](WholeNumber note) { return (note - above) % 12 == 0; }))
-            << ::testing::PrintToString(entry.chord) << ", string " << i;
-      }
-    }
   }
 }
 

@@ -1,36 +1,13 @@
 #include "Tonelake/chords/chord_naming.h"
 
-#include <set>
-
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Tonelake/chords/chord_data_manager.h"
-#include "Tonelake/chords/chord_dictionary.h"
-#include "Tonelake/chords/chord_intervals.h"
-#include "Tonelake/chords/chord_note_numbers.h"
 #include "Tonelake/chords/chord_spelling.h"
 #include "Tonelake/chords/inversion.h"
 #include "tests/support/printing.h"
 
 namespace tonelake {
 namespace {
-
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-
-// Every chord that is offered: 17 roots, 49 types, every variant.
-template <typename Visit>
-void forEveryChord(Visit visit) {
-  for (const Note root : ChordDataManager::shared().allRootNotes()) {
-    for (const std::string& type : chordTypes()) {
-      const auto variants = static_cast<WholeNumber>(Chords::getChordData(type)->notes.size());
-      for (WholeNumber variant = 0; variant < variants; ++variant) {
-        visit(Chord{root, type, variant});
-      }
-    }
-  }
-}
 
 TEST(ChordNaming, TitlesChords) {
   struct Row {
@@ -93,104 +70,7 @@ TEST(ChordNamingDeathTest, StopsOnAVariantThatTheChordDoesNotHave) {
   EXPECT_FALSE(Chords::isShowable({Note::C, "Major", 0}));
 }
 
-TEST(ChordSpelling, SpellsEveryChordByItsDegrees) {
-  const std::pair<Chord, std::vector<std::string>> rows[] = {
-      {{Note::C, "diminished 7th", 2}, {"C", "E♭", "G♭", "B♭♭"}},
-      {{Note::Ef, "minor", 0}, {"E♭", "G♭", "B♭"}},
-      {{Note::Gs, "major", 0}, {"G♯", "B♯", "D♯"}},
-      {{Note::Cs, "augmented", 0}, {"C♯", "E♯", "G𝄪"}},
-      {{Note::C, "dominant 7th add 13", 0}, {"C", "E", "G", "B♭", "A"}},
-      {{Note::C, "", 0}, {}}};
-  for (const auto& [chord, tones] : rows) {
-    EXPECT_EQ(Chords::getNotesOfChord(chord), tones) << ::testing::PrintToString(chord);
-  }
-  forEveryChord([](const Chord& chord) {
-    const auto& semitones = Chords::getChordData(chord.chordType)->notes;
-    const auto tones = Chords::getNotesOfChord(chord);
-    ASSERT_EQ(tones.size(), semitones.size());
-    for (std::size_t i = 0; i < tones.size(); ++i) {
-      const auto note = Note::fromRawValue(tones[i]);
-      ASSERT_TRUE(note.has_value()) << tones[i] << " in " << ::testing::PrintToString(chord);
-      EXPECT_EQ(note->pitchClass(), (chord.rootNote.pitchClass() + semitones[i]) % 12);
-    }
-  });
-}
-
-TEST(ChordIntervals, BeginWithTheBass) {
-  const Chord root{Note::C, "major", 0};
-  EXPECT_THAT(Chords::getIntervalsOfChord(root),
-              ElementsAre("Unison", "Major Third", "Perfect Fifth"));
-  for (const WholeNumber variant : {1, 4, -2}) {
-    EXPECT_THAT(Chords::getIntervalsOfChordForToday({Note::C, "major", variant}),
-                ElementsAre("Major Third", "Perfect Fifth", "Root"))
-        << variant;
-  }
-  EXPECT_THAT(Chords::getIntervalsOfChord({Note::C, "?", 0}), IsEmpty());
-  forEveryChord([](const Chord& chord) {
-    EXPECT_THAT(Chords::getIntervalsOfChord(chord), ::testing::Not(::testing::Contains("")))
-        << ::testing::PrintToString(chord);
-  });
-}
-
-TEST(ChordNoteNumbers, SoundTheFirstFingering) {
-  // x32010, an octave low.
-  EXPECT_THAT(Chords::getNoteNumbersForChord({Note::C, "major", 0}),
-              ElementsAre(36, 40, 43, 48, 52));
-  EXPECT_DEATH(Chords::getNoteNumbersForChord({Note::C, "?", 0}), "without a fingering");
-}
-
-TEST(ChordNoteNumbers, StackPianoVoicingsUpwards) {
-  const auto notes = [](Note root, WholeNumbers formula) {
-    return Chords::getChordPianoNotes(root, formula);
-  };
-  EXPECT_THAT(notes(Note::C, {0, 4, 7}), ElementsAre(48, 52, 55));
-  EXPECT_THAT(notes(Note::E, {0, 7, 4, 0}), ElementsAre(40, 47, 56, 64));
-  EXPECT_THAT(notes(Note::Dds, {0}), ElementsAre(52));
-  EXPECT_THAT(notes(Note::Ds, {12, 0, -24}), ElementsAre(63, 75, 87));
-  EXPECT_THAT(notes(Note::C, {}), IsEmpty());
-}
-
-// A name leads back to a chord that sounds the same, bass included.
-TEST(ChordDictionary, FindsEveryChordByEveryName) {
-  const auto sound = [](const Chord& chord) {
-    const auto& notes = Chords::getChordData(chord.chordType)->notes;
-    std::set<WholeNumber> tones;
-    for (const WholeNumber note : notes) tones.insert((chord.rootNote.pitchClass() + note) % 12);
-    const WholeNumber bass = notes[static_cast<std::size_t>(chord.variant)];
-    return std::pair(tones, (chord.rootNote.pitchClass() + bass) % 12);
-  };
-  forEveryChord([&](const Chord& chord) {
-    auto names = Chords::getAlternateTitlesForChord(chord);
-    names.push_back(Chords::getTitleForChord(chord));
-    names.push_back(Chords::getShortestTitleForChord(chord));
-    for (const std::string& name : names) {
-      const auto found = Chords::lookUpChord(name);
-      ASSERT_TRUE(found.has_value()) << name;
-      ASSERT_EQ(sound(*found), sound(chord)) << name;
-      ASSERT_TRUE(Chords::getChordDictionary().contains(name)) << name;
-    }
-    const auto byTitle = Chords::lookUpChord(names[names.size() - 2]);
-    ASSERT_EQ(*byTitle, chord) << "an exact title belongs to its own chord";
-  });
-}
-
-TEST(ChordDictionary, SettlesNamesThatTwoChordsClaim) {
-  const std::pair<const char*, Chord> rows[] = {
-      {"Cm6", {Note::C, "minor 6", 0}},
-      {"Cm6/A", {Note::C, "minor 6", 3}},
-      {"F#m7b5/E", {Note::Fs, "minor 7th flat 5", 3}},
-      {"Bb", {Note::Bf, "major", 0}},
-      {"Dbmaj7/C", {Note::Df, "major 7th", 3}},
-      {"C half-diminished 7th", {Note::C, "dominant 7th flat 5", 0}},
-      {"B/D#", {Note::B, "major", 1}},
-  };
-  for (const auto& [name, chord] : rows) EXPECT_EQ(Chords::lookUpChord(name), chord) << name;
-  for (const char* name : {"", "H", "c", "Cmaj77", "E#", "C/F", "C major "}) {
-    EXPECT_EQ(Chords::lookUpChord(name), std::nullopt) << name;
-  }
-}
-
-TEST(Inversion, NamesTheBassPosition) {
+TEST(ChordNaming, NamesInversions) {
   EXPECT_EQ(Inversion(Inversion::seventhInversion).localizedName(), "Seventh inversion");
   for (const Inversion inversion : Inversion::allCases()) {
     EXPECT_EQ(Inversion::fromRawValue(inversion.rawValue()), inversion);

@@ -7,10 +7,8 @@
 #include <gtest/gtest.h>
 
 #include "Tonelake/content/chord_progression_json.h"
-#include "Tonelake/content/roman_numeral.h"
 #include "Tonelake/foundation/text.h"
 #include "tests/support/printing.h"
-#include "tests/support/recording_diagnostics.h"
 
 namespace tonelake::ChordProgressions {
 namespace {
@@ -185,26 +183,7 @@ TEST(ChordProgressions, SpeakTheLanguageTheyAreGiven) {
   }
 }
 
-TEST(RomanNumeral, HasTheValueOfItsLetters) {
-  const std::tuple<std::string, WholeNumber, std::vector<std::string>> rows[] = {
-      {"", 0, {}},
-      {"IV", 4, {}},
-      {"VI", 6, {}},
-      {"VII", 7, {}},
-      {"IX", 9, {}},
-      {"IIX", 10, {}},
-      {"MCDXLIV", 1444, {}},
-      {"iv", 0, {"Invalid Roman numeral character: v"}},
-      {"I♭I", 0, {"Invalid Roman numeral character: ♭"}},
-  };
-  for (const auto& [numeral, value, lines] : rows) {
-    testing::RecordingDiagnostics diagnostics;
-    EXPECT_EQ(RomanNumeral::valueOf(numeral, diagnostics), value) << numeral;
-    EXPECT_EQ(diagnostics.lines(), lines) << numeral;
-  }
-}
-
-TEST(MusicStyles, AreFoundByTheirExactNames) {
+TEST(ChordProgressions, HaveStylesOfExactNames) {
   EXPECT_THAT(MusicStyles::allCases(), SizeIs(25));
   for (const MusicStyles style : MusicStyles::allCases()) {
     EXPECT_EQ(MusicStyles::fromRawValue(style.rawValue()), style);

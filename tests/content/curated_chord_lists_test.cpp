@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Tonelake/content/chord_samples.h"
 #include "Tonelake/fingering/chord_positions.h"
 #include "Tonelake/foundation/text.h"
 #include "tests/support/printing.h"
@@ -59,7 +58,7 @@ TEST(CuratedChordLists, SpeakTheLanguageTheyAreGiven) {
   }
 }
 
-TEST(ChordListCategory, IsFoundByItsExactName) {
+TEST(CuratedChordLists, HaveCategoriesOfExactNames) {
   EXPECT_THAT(ChordListCategory::allCases(), SizeIs(18));
   for (const ChordListCategory category : ChordListCategory::allCases()) {
     EXPECT_EQ(ChordListCategory::fromRawValue(category.rawValue()), category);
@@ -68,20 +67,6 @@ TEST(ChordListCategory, IsFoundByItsExactName) {
     EXPECT_EQ(ChordListCategory::fromRawValue(other), std::nullopt) << other;
   }
   EXPECT_FALSE(curatedChordLists().contains(ChordListCategory::slashChords));
-}
-
-TEST(ChordSamples, ExistForMajorAndMinorOnly) {
-  EXPECT_EQ(Chords::getChordSampleSet(),
-            (std::vector<Chord>{{Note::C, "major", 0}, {Note::C, "minor", 0}}));
-  const std::pair<const char*, std::size_t> rows[] = {
-      {"major", 7}, {"minor", 7}, {"Major", 0}, {"minor 7th", 0}, {"", 0}};
-  for (const auto& [type, count] : rows) {
-    const auto samples = Chords::getChordSampleSetForChordType(type);
-    ASSERT_THAT(samples, SizeIs(count)) << type;
-    if (count == 0) continue;
-    EXPECT_EQ(samples.front(), (Chord{Note::C, type, 0}));
-    EXPECT_EQ(samples.back(), (Chord{Note::B, type, 0}));
-  }
 }
 
 }  // namespace

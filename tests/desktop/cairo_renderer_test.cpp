@@ -6,6 +6,7 @@
 #include <fstream>
 #include <limits>
 #include <thread>
+#include <tuple>
 
 #include <cairo.h>
 #include <gmock/gmock.h>
@@ -22,6 +23,7 @@ namespace {
 
 using ::testing::HasSubstr;
 using todaychord::Color;
+using todaychord::ImageItem;
 using todaychord::LinearGradient;
 using todaychord::LineCap;
 using todaychord::LineJoin;
@@ -33,6 +35,7 @@ using todaychord::PathItem;
 using todaychord::RadialGradient;
 using todaychord::Rectangle;
 using todaychord::Scene;
+using todaychord::SceneGroup;
 using todaychord::SceneItem;
 using todaychord::Stroke;
 using todaychord::TextAnchor;
@@ -105,77 +108,53 @@ TEST(RenderPng, PaintsWhatASceneHolds) {
   const RadialGradient round{{20, 20}, 10, {{0, {0x00FF00}}, {1, {0xFF0000}}}};
   const Path corner{MoveTo{{10, 10}}, LineTo{{20, 10}}, LineTo{{20, 20}}};
   const Stroke round8{white, 8, 10, LineCap::butt, LineJoin::round};
+  // Edge and fill are made transparent as one.
+  const PathItem edged{square, white, Stroke{Color{0xFF0000}, 4}, 0.2};
+  const LinearGradient still{{9, 9}, {9, 9}, across.stops};
+  const RadialGradient dot{{9, 9}, 0, round.stops};
+  const Stroke round4{white, 4, 10, LineCap::round};
+  const ImageItem chevron{"chevron.right", {8, 8, 24, 24}, white};
+  const TextItem sizeless{"█", {"", 0}, TextAnchor::middle, {20, 20}, white};
+  const Path endless = todaychord::line({-1e300, 20}, {1e300, 20});
+  const double none = std::numeric_limits<double>::quiet_NaN();
   struct Case {
     const char* what;
-    SceneItem item;
     int x;
     int y;
     std::uint32_t argb;
+    SceneItem item;
   };
-  const double none = std::numeric_limits<double>::quiet_NaN();
-  for (const Case& each : std::vector<Case>{
-           {"fill", {PathItem{square, Color{0x123456}}}, 10, 10, 0xFF123456},
-           {"outside of it", {PathItem{square, white}}, 30, 29, 0},
-           {"half a colour", {PathItem{square, Color{0xFF0000, 0.5}}}, 20, 20, 0x80800000},
-           {"opacity", {PathItem{square, white, {}, 0.2}}, 20, 20, 0x33333333},
-           {"edge over fill, as one",
-            {PathItem{square, white, Stroke{Color{0xFF0000}, 4}, 0.2}},
-            11,
-            20,
-            0x33330000},
-           {"fill under edge, as one",
-            {PathItem{square, white, Stroke{Color{0xFF0000}, 4}, 0.2}},
-            20,
-            20,
-            0x33333333},
-           {"begin of a gradient", {PathItem{square, across}}, 10, 20, 0xF9F20006},
-           {"end of a gradient", {PathItem{square, across}}, 29, 20, 0x06000006},
-           {"centre of a gradient", {PathItem{square, round}}, 20, 20, 0xFF12ED00},
-           {"beyond its rim", {PathItem{square, round}}, 11, 11, 0xFFFF0000},
-           {"gradient without extent",
-            {PathItem{square, LinearGradient{{9, 9}, {9, 9}, across.stops}}},
-            20,
-            20,
-            0},
-           {"gradient without radius",
-            {PathItem{square, RadialGradient{{9, 9}, 0, round.stops}}},
-            20,
-            20,
-            0xFFFF0000},
-           {"flat end", {PathItem{corner, {}, Stroke{white, 4}}}, 9, 10, 0},
-           {"round end",
-            {PathItem{corner, {}, Stroke{white, 4, 10, LineCap::round}}},
-            9,
-            10,
-            0xFFFFFFFF},
-           {"mitred corner", {PathItem{corner, {}, Stroke{white, 8}}}, 23, 6, 0xFFFFFFFF},
-           {"round corner's tip", {PathItem{corner, {}, round8}}, 23, 6, 0},
-           {"round corner", {PathItem{corner, {}, round8}}, 21, 7, 0xFFFFFFFF},
-           {"cut corner", {PathItem{corner, {}, Stroke{white, 8, 1}}}, 22, 6, 0},
-           {"no width", {PathItem{corner, {}, Stroke{white, 0}}}, 15, 10, 0},
-           {"no number", {PathItem{corner, {}, Stroke{white, none}}}, 15, 10, 0},
-           {"far away",
-            {PathItem{todaychord::line({-1e300, 20}, {1e300, 20}), {}, Stroke{white, 4}}},
-            20,
-            20,
-            0xFFFFFFFF},
-           {"group",
-            {todaychord::SceneGroup{"g", {{PathItem{square, white}}}}},
-            20,
-            20,
-            0xFFFFFFFF},
-           {"icon",
-            {todaychord::ImageItem{"chevron.right", {8, 8, 24, 24}, white}},
-            23,
-            19,
-            0xFFFFFFFF},
-           {"unknown image", {todaychord::ImageItem{"no icon", {0, 0, 40, 40}, white}}, 20, 20, 0},
-           {"link", {LinkArea{{0, 0, 40, 40}, "zyndle://widget/search", ""}}, 20, 20, 0},
-           {"text without size",
-            {TextItem{"█", {"", 0}, TextAnchor::middle, {20, 20}, white}},
-            20,
-            20,
-            0}}) {
+  // clang-format off
+  const Case cases[] = {
+      {"fill",                 10, 10, 0xFF123456, {PathItem{square, Color{0x123456}}}},
+      {"outside of it",        30, 29, 0,          {PathItem{square, white}}},
+      {"half a colour",        20, 20, 0x80800000, {PathItem{square, Color{0xFF0000, 0.5}}}},
+      {"opacity",              20, 20, 0x33333333, {PathItem{square, white, {}, 0.2}}},
+      {"edge over fill",       11, 20, 0x33330000, {edged}},
+      {"fill under edge",      20, 20, 0x33333333, {edged}},
+      {"begin of a gradient",  10, 20, 0xF9F20006, {PathItem{square, across}}},
+      {"end of a gradient",    29, 20, 0x06000006, {PathItem{square, across}}},
+      {"centre of a gradient", 20, 20, 0xFF12ED00, {PathItem{square, round}}},
+      {"beyond its rim",       11, 11, 0xFFFF0000, {PathItem{square, round}}},
+      {"no extent",            20, 20, 0,          {PathItem{square, still}}},
+      {"no radius",            20, 20, 0xFFFF0000, {PathItem{square, dot}}},
+      {"flat end",              9, 10, 0,          {PathItem{corner, {}, Stroke{white, 4}}}},
+      {"round end",             9, 10, 0xFFFFFFFF, {PathItem{corner, {}, round4}}},
+      {"mitred corner",        23,  6, 0xFFFFFFFF, {PathItem{corner, {}, Stroke{white, 8}}}},
+      {"round corner's tip",   23,  6, 0,          {PathItem{corner, {}, round8}}},
+      {"round corner",         21,  7, 0xFFFFFFFF, {PathItem{corner, {}, round8}}},
+      {"cut corner",           22,  6, 0,          {PathItem{corner, {}, Stroke{white, 8, 1}}}},
+      {"no width",             15, 10, 0,          {PathItem{corner, {}, Stroke{white, 0}}}},
+      {"no number",            15, 10, 0,          {PathItem{corner, {}, Stroke{white, none}}}},
+      {"far away",             20, 20, 0xFFFFFFFF, {PathItem{endless, {}, Stroke{white, 4}}}},
+      {"group",                20, 20, 0xFFFFFFFF, {SceneGroup{"g", {{PathItem{square, white}}}}}},
+      {"icon",                 23, 19, 0xFFFFFFFF, {chevron}},
+      {"unknown image",        20, 20, 0,          {ImageItem{"no icon", {0, 0, 40, 40}, white}}},
+      {"link",                 20, 20, 0,          {LinkArea{{0, 0, 40, 40}, "zyndle://", ""}}},
+      {"text without size",    20, 20, 0,          {sizeless}},
+  };
+  // clang-format on
+  for (const Case& each : cases) {
     const std::uint32_t found = paint({each.item}).argb(each.x, each.y);
     for (unsigned shift = 0; shift < 32; shift += 8) {
       EXPECT_NEAR(found >> shift & 0xFFU, each.argb >> shift & 0xFFU, 2)
@@ -185,42 +164,30 @@ TEST(RenderPng, PaintsWhatASceneHolds) {
 }
 
 TEST(RenderPng, HasTheSizeOfTheSceneTimesTheScale) {
-  struct Case {
-    double width;
-    double height;
-    double scale;
-    int pixelsWide;
-    int pixelsHigh;
-  };
-  for (const Case& each : std::vector<Case>{{150, 192, 3, 450, 576},
-                                            {150, 30, 1.1, 165, 33},
-                                            {10.1, 10, 1, 11, 10},
-                                            {10, 3, 0.01, 1, 1}}) {
-    const Picture picture(renderPng({each.width, each.height, "", "", {}}, each.scale).bytes);
-    EXPECT_EQ(picture.width(), each.pixelsWide) << each.width << " at " << each.scale;
-    EXPECT_EQ(picture.height(), each.pixelsHigh) << each.height << " at " << each.scale;
+  const std::tuple<double, double, double, int, int> rows[] = {
+      {150, 192, 3, 450, 576}, {150, 30, 1.1, 165, 33}, {10.1, 10, 1, 11, 10}, {10, 3, 0.01, 1, 1}};
+  for (const auto& [width, height, scale, pixelsWide, pixelsHigh] : rows) {
+    const Picture picture(renderPng({width, height, "", "", {}}, scale).bytes);
+    EXPECT_EQ(picture.width(), pixelsWide) << width << " at " << scale;
+    EXPECT_EQ(picture.height(), pixelsHigh) << height << " at " << scale;
   }
 }
 
 TEST(RenderPng, RefusesWhatIsNoPicture) {
   const double none = std::numeric_limits<double>::quiet_NaN();
-  struct Case {
-    double width;
-    double height;
-    double scale;
-    const char* problem;
-  };
-  for (const Case& each : std::vector<Case>{{10, 10, 0, "the scale is 0"},
-                                            {10, 10, -1, "the scale is -1"},
-                                            {10, 10, 101, "the scale is 101"},
-                                            {10, 10, none, "the scale is not a number"},
-                                            {0, 10, 1, "0 x 10 points"},
-                                            {10, none, 1, "10 x 0 points"},
-                                            {8001, 8000, 1, "8001 x 8000 pixels"},
-                                            {400, 1, 100, "40000 x 100 pixels"},
-                                            {1e300, 1e300, 1, "pixels is too large"}}) {
-    const RenderedPicture rendered = renderPng({each.width, each.height, "", "", {}}, each.scale);
-    EXPECT_THAT(rendered.problem, HasSubstr(each.problem));
+  const std::tuple<double, double, double, const char*> rows[] = {
+      {10, 10, 0, "the scale is 0"},
+      {10, 10, -1, "the scale is -1"},
+      {10, 10, 101, "the scale is 101"},
+      {10, 10, none, "the scale is not a number"},
+      {0, 10, 1, "0 x 10 points"},
+      {10, none, 1, "10 x 0 points"},
+      {8001, 8000, 1, "8001 x 8000 pixels"},
+      {400, 1, 100, "40000 x 100 pixels"},
+      {1e300, 1e300, 1, "pixels is too large"}};
+  for (const auto& [width, height, scale, problem] : rows) {
+    const RenderedPicture rendered = renderPng({width, height, "", "", {}}, scale);
+    EXPECT_THAT(rendered.problem, HasSubstr(problem));
     EXPECT_EQ(rendered.bytes, "");
   }
 }

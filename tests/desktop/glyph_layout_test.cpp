@@ -1,5 +1,7 @@
 #include "Desktop/glyph_layout.h"
 
+#include <tuple>
+
 #include <gtest/gtest.h>
 
 #include "Desktop/font_library.h"
@@ -18,25 +20,13 @@ double widthOf(const std::string& text, const todaychord::Font& font = medium) {
 
 // Thousandths of the font size, as another reader of the fonts tells them.
 TEST(GlyphLayout, BringsPairsOfLettersTogether) {
-  struct Case {
-    todaychord::Font font;
-    std::string pair;
-    double kerning;
-  };
-  for (const Case& each : std::vector<Case>{{medium, "To", -97},
-                                            {medium, "Tu", -74},
-                                            {medium, "AY", -74},
-                                            {medium, "rd", -18},
-                                            {medium, "'s", -7},
-                                            {medium, "aj", 0},
-                                            {medium, "HH", 0},
-                                            {semiBold, "To", -96},
-                                            {semiBold, "F/", -35},
-                                            {semiBold, "Va", -31}}) {
-    const double apart =
-        widthOf(each.pair.substr(0, 1), each.font) + widthOf(each.pair.substr(1), each.font);
-    EXPECT_NEAR(widthOf(each.pair, each.font) - apart, each.kerning / 10, 0.01)
-        << each.font.name << ' ' << each.pair;
+  const std::tuple<todaychord::Font, std::string, double> rows[] = {
+      {medium, "To", -97},   {medium, "Tu", -74},  {medium, "AY", -74}, {medium, "rd", -18},
+      {medium, "'s", -7},    {medium, "aj", 0},    {medium, "HH", 0},   {semiBold, "To", -96},
+      {semiBold, "F/", -35}, {semiBold, "Va", -31}};
+  for (const auto& [font, pair, kerning] : rows) {
+    const double apart = widthOf(pair.substr(0, 1), font) + widthOf(pair.substr(1), font);
+    EXPECT_NEAR(widthOf(pair, font) - apart, kerning / 10, 0.01) << font.name << ' ' << pair;
   }
 }
 
@@ -70,25 +60,22 @@ TEST(GlyphLayout, IsNeverWiderThanScenesReckon) {
 }
 
 TEST(GlyphLayout, TakesLettersThatAFaceLacksFromOthers) {
-  struct Case {
-    std::string text;
-    std::vector<std::string> runs;
-  };
   const std::string unknown = "\xEF\xBF\xBD";
-  for (const Case& each : std::vector<Case>{{"", {}},
-                                            {"C major", {"C major"}},
-                                            {"B♭m", {"B", "♭", "m"}},
-                                            {"♯♭𝄪", {"♯", "♭", "𝄪"}},
-                                            {"a\tb\n", {"a b "}},
-                                            {"a\u200D\uFE0Fb\uFEFF", {"ab"}},
-                                            {"a\xFF", {"a", unknown}},
-                                            {"\x01", {unknown}}}) {
+  const std::pair<const char*, std::vector<std::string>> rows[] = {{"", {}},
+                                                                   {"C major", {"C major"}},
+                                                                   {"B♭m", {"B", "♭", "m"}},
+                                                                   {"♯♭𝄪", {"♯", "♭", "𝄪"}},
+                                                                   {"a\tb\n", {"a b "}},
+                                                                   {"a\u200D\uFE0Fb\uFEFF", {"ab"}},
+                                                                   {"a\xFF", {"a", unknown}},
+                                                                   {"\x01", {unknown}}};
+  for (const auto& [text, wanted] : rows) {
     std::vector<std::string> runs;
-    for (const GlyphRun& run : layOutGlyphs(each.text, medium).runs) {
+    for (const GlyphRun& run : layOutGlyphs(text, medium).runs) {
       runs.push_back(run.text);
-      EXPECT_EQ(run.glyphs.size(), run.clusters.size()) << each.text;
+      EXPECT_EQ(run.glyphs.size(), run.clusters.size()) << text;
     }
-    EXPECT_EQ(runs, each.runs) << each.text;
+    EXPECT_EQ(runs, wanted) << text;
   }
   EXPECT_EQ(widthOf("C major", {"no such typeface", 100}), widthOf("C major"));
 }
@@ -104,7 +91,7 @@ TEST(GlyphLayout, RaisesMusicSigns) {
 }
 
 // Nothing may be read behind the end of a table, nor forever.
-TEST(PairKerning, KnowsNoPairsInDamagedTables) {
+TEST(GlyphLayout, KnowsNoPairsInDamagedTables) {
   for (const char byte : {'\0', '\1', '\x7F', '\xFF'}) {
     for (std::size_t size = 0; size < 100; ++size) {
       EXPECT_EQ(PairKerning(std::string(size, byte)).between(1, 2), 0) << size;

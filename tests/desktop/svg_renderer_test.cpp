@@ -145,7 +145,7 @@ TEST(SvgRenderer, PaintsColoursGradientsAndStrokes) {
   }
 }
 
-TEST(SvgText, WritesNumbersShortAndWithoutALocale) {
+TEST(SvgRenderer, WritesNumbersShortAndWithoutALocale) {
   std::setlocale(LC_ALL, "");
   const double infinity = std::numeric_limits<double>::infinity();
   const std::pair<double, const char*> rows[] = {{-0.0004, "0"},
@@ -161,18 +161,16 @@ TEST(SvgText, WritesNumbersShortAndWithoutALocale) {
   }
 }
 
-TEST(SvgText, RaisesMusicSigns) {
-  struct Case {
-    std::string text;
-    std::vector<TextSpan> spans;
-  };
-  for (const Case& each : std::vector<Case>{{"C major", {{"C major", 0}}},
-                                            {"", {}},
-                                            {"F♯m", {{"F", 0}, {"♯", -1.2}, {"m", 1.2}}},
-                                            {"B♭♭/D", {{"B", 0}, {"♭♭", -0.2, 1.35}, {"/D", 0.2}}},
-                                            {"♭5", {{"♭", -0.2, 1.35}, {"5", 0.2}}},
-                                            {"F𝄪", {{"F", 0}, {"𝄪", -1.2}}}}) {
-    EXPECT_EQ(raiseMusicSigns(each.text, 10), each.spans) << each.text;
+TEST(SvgRenderer, RaisesMusicSigns) {
+  const std::pair<const char*, std::vector<TextSpan>> rows[] = {
+      {"C major", {{"C major", 0}}},
+      {"", {}},
+      {"F♯m", {{"F", 0}, {"♯", -1.2}, {"m", 1.2}}},
+      {"B♭♭/D", {{"B", 0}, {"♭♭", -0.2, 1.35}, {"/D", 0.2}}},
+      {"♭5", {{"♭", -0.2, 1.35}, {"5", 0.2}}},
+      {"F𝄪", {{"F", 0}, {"𝄪", -1.2}}}};
+  for (const auto& [text, spans] : rows) {
+    EXPECT_EQ(raiseMusicSigns(text, 10), spans) << text;
   }
 }
 

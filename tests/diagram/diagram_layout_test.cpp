@@ -96,13 +96,6 @@ TEST(DiagramLayout, LabelsSoundingStringsAsTheChordSpellsThem) {
   }
 }
 
-TEST(DiagramLayout, IsNeverSmallerThanHalfSize) {
-  const std::pair<double, double> rows[] = {{-1, 0.5}, {60, 0.5}, {81, 0.6}, {270, 2}};
-  for (const auto& [width, scale] : rows) {
-    EXPECT_DOUBLE_EQ(diagramScale(width), scale) << width;
-  }
-}
-
 TEST(DiagramLayout, PlacesWhatIncompleteListsHave) {
   const DiagramLayout layout = layOutDiagram(viewOf({}, {1, 2, 2}, {1}), 135);
   EXPECT_EQ(layout.dots.size(), 3U);

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "TodayChordExtension/diagram/icon_path.h"
-#include "TodayChordExtension/diagram/scene_shapes.h"
 #include "TodayChordExtension/widgets/launcher_tools.h"
 #include "Tonelake/content/curated_chord_lists.h"
 #include "tests/support/scene_parts.h"
@@ -17,11 +15,7 @@ using testing::collect;
 
 Box boxOfIcon(const ImageItem& image) {
   Box box;
-  for (const PathItem& item : collect<PathItem>(drawIcon(image))) {
-    const Box part = boxOf(item);
-    box.include({part.left, part.top});
-    box.include({part.right, part.bottom});
-  }
+  for (const PathItem& item : collect<PathItem>(drawIcon(image))) box.unite(boxOf(item));
   return box;
 }
 
@@ -65,34 +59,6 @@ TEST(Icons, StandInTheMiddleOfTheirFrames) {
     EXPECT_EQ(items[0].path, (Path{MoveTo{{28, 30}}, LineTo{{42, 44}}, LineTo{{28, 58}}}));
     EXPECT_EQ(std::get<Color>(items[0].stroke->paint), tint);
     EXPECT_EQ(items[0].stroke->width, 3);
-  }
-}
-
-TEST(IconPath, ReadsLettersWithTheirNumbers) {
-  const Path disc = circle({1, 2}, 3);
-  Path discAndLine = disc;
-  discAndLine.emplace_back(MoveTo{{0.5, -1}});
-  discAndLine.emplace_back(LineTo{{2, 3}});
-  struct Case {
-    std::string text;
-    std::optional<Path> path;
-  };
-  for (const Case& each : std::vector<Case>{
-           {"", Path{}},
-           {"M1 2L3 4 5 6Z", Path{MoveTo{{1, 2}}, LineTo{{3, 4}}, LineTo{{5, 6}}, ClosePath{}}},
-           {" C1 2 3 4 5 -6 ", Path{CurveTo{{1, 2}, {3, 4}, {5, -6}}}},
-           {"O1 2 3", disc},
-           {"O1 2 3 M.5 -1L2 3", discAndLine},
-           {"R0 0 4 4 1", roundedRectangle({0, 0, 4, 4}, CornerRadii::all(1))},
-           {"M1", std::nullopt},
-           {"M1 2 3", std::nullopt},
-           {"M1 L2", std::nullopt},
-           {"Z1", std::nullopt},
-           {"1 2", std::nullopt},
-           {"m1 2", std::nullopt},
-           {"A1 2", std::nullopt},
-           {"M1,2", std::nullopt}}) {
-    EXPECT_EQ(readIconPath(each.text), each.path) << each.text;
   }
 }
 

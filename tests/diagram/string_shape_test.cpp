@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "TodayChordExtension/diagram/pluck_spring.h"
-
 namespace todaychord {
 namespace {
 
@@ -11,24 +9,6 @@ TEST(StringShape, BowsTowardsWhereItIsTouched) {
   EXPECT_EQ((StringShape{6, 0.3}.path(20, 100)), (Curve{{10, 0}, {16, 15}, {16, 65}, {10, 100}}));
   EXPECT_EQ((StringShape{-4, 1}.path(14, 80)), (Curve{{7, 0}, {3, 40}, {3, 80}, {7, 80}}));
   EXPECT_EQ((StringShape{0, 0.7}.path(14, 80)), (Curve{{7, 0}, {7, 28}, {7, 68}, {7, 80}}));
-}
-
-// The closed form against the equation of motion, m·x'' = -k·x - c·x', in steps of 10 µs.
-TEST(PluckSpring, SwingsAsADampedSpringReleasedFromRest) {
-  for (int string = 1; string <= 6; ++string) {
-    const PluckSpring spring = pluckSpring(string);
-    EXPECT_EQ(spring.stiffness, 7000 - 1000 * string);
-    const double step = 1e-5;
-    double place = 1;
-    double speed = 0;
-    for (int i = 0; i < 50'000; ++i) {
-      if (i % 5000 == 0) {
-        EXPECT_NEAR(spring.displacement(i * step), place, 0.01) << string << " at step " << i;
-      }
-      speed += step * (-spring.stiffness * place - spring.damping * speed) / spring.mass;
-      place += step * speed;
-    }
-  }
 }
 
 }  // namespace

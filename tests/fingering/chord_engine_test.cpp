@@ -5,16 +5,15 @@
 
 #include "Tonelake/chords/chord_data_manager.h"
 #include "tests/support/finger_checker.h"
+#include "tests/support/many_chords.h"
 #include "tests/support/plain_shape_checker.h"
 #include "tests/support/printing.h"
-#include "tests/support/random_chords.h"
 
 namespace tonelake {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::SizeIs;
 using ::testing::StartsWith;
 
 std::vector<ChordPosition> search(const std::string& root, const WholeNumbers& intervals,
@@ -36,9 +35,9 @@ TEST_P(EveryChord, HasTheShapesOfThePlainChecker) {
     for (const std::string& type : chordTypes()) {
       const std::string name(root.rawValue());
       const WholeNumbers& notes = Chords::getChordData(type)->notes;
-      ASSERT_EQ(search(name, notes, -1, GetParam()),
-                testing::generatePlainly(name, notes, -1, GetParam()))
-          << name << " " << type;
+      const auto shapes = search(name, notes, -1, GetParam());
+      ASSERT_EQ(shapes, testing::generatePlainly(name, notes, -1, GetParam())) << name << type;
+      EXPECT_TRUE(GetParam() != Tuning::standard || !shapes.empty()) << name << type;
     }
   }
 }
@@ -48,7 +47,7 @@ TEST(ChordEngine, HasTheShapesOfThePlainCheckerInAnyTuning) {
     std::mt19937 random(seed);
     const TuningNames tuning = testing::randomTuning(random);
     const Chord chord = testing::randomChord(random);
-    const WholeNumber limit = random() % 2 == 0 ? -1 : static_cast<WholeNumber>(random() % 10);
+    const WholeNumber limit = random() % 2 == 0 ? -1 : static_cast<WholeNumber>(random() % 12) - 2;
     SCOPED_TRACE(seed);
     const std::string root(chord.rootNote.rawValue());
     const WholeNumbers& notes = Chords::getChordData(chord.chordType)->notes;
@@ -56,36 +55,6 @@ TEST(ChordEngine, HasTheShapesOfThePlainCheckerInAnyTuning) {
     ASSERT_EQ(shapes, testing::generatePlainly(root, notes, limit, tuning));
     for (const ChordPosition& shape : shapes) ASSERT_EQ(testing::brokenFingerRule(shape), "");
   }
-}
-
-TEST(ChordEngine, FindsOpenCMajorFirst) {
-  const auto shapes = search("C", {0, 4, 7});
-  ASSERT_FALSE(shapes.empty());
-  EXPECT_THAT(shapes.front().position, ElementsAre(-1, 3, 2, 0, 1, 0));
-  EXPECT_THAT(shapes.front().fingering, ElementsAre(0, 3, 2, 0, 1, 0));
-}
-
-TEST(ChordEngine, OffersEveryChordInStandardTuning) {
-  for (const Note root : ChordDataManager::shared().allRootNotes()) {
-    for (const std::string& type : chordTypes()) {
-      const auto& notes = Chords::getChordData(type)->notes;
-      EXPECT_FALSE(search(std::string(root.rawValue()), notes).empty())
-          << root.rawValue() << " " << type;
-    }
-  }
-  const auto only = search("A♯", Chords::getChordData("minor major 11")->notes);
-  ASSERT_THAT(only, SizeIs(1));
-  EXPECT_THAT(only.front().position, ElementsAre(6, 6, 7, 6, 6, 8));
-}
-
-TEST(ChordEngine, StopsAtTheLimitOfCompleteVoicings) {
-  const WholeNumbers major{0, 4, 7};
-  for (const WholeNumber limit : {-7, 0, 1, 2, 5, 1000}) {
-    EXPECT_EQ(search("G", major, limit),
-              testing::generatePlainly("G", major, limit, Tuning::standard))
-        << "limit " << limit;
-  }
-  EXPECT_THAT(search("G", major, 0), SizeIs(1));
 }
 
 TEST(ChordEngine, ReadsIntervalsLikeThePlainChecker) {
@@ -96,12 +65,6 @@ TEST(ChordEngine, ReadsIntervalsLikeThePlainChecker) {
               testing::generatePlainly("B", intervals, -1, Tuning::standard))
         << ::testing::PrintToString(intervals);
   }
-}
-
-TEST(ChordEngine, KnowsARootInAnySpelling) {
-  const WholeNumbers minor{0, 3, 7};
-  EXPECT_EQ(search("D♭", minor), search("C♯", minor));
-  EXPECT_EQ(search("E♭♭", minor), search("D", minor));
 }
 
 TEST(ChordEngine, GivesNothingForWhatItCannotRead) {

@@ -22,6 +22,15 @@ struct Box {
     right = std::max(right, point.x + reach);
     bottom = std::max(bottom, point.y + reach);
   }
+  void unite(const Box& other) {
+    include({other.left, other.top});
+    include({other.right, other.bottom});
+  }
+  bool contains(const Box& other) const {
+    constexpr double rounding = 1e-6;
+    return other.left >= left - rounding && other.top >= top - rounding &&
+           other.right <= right + rounding && other.bottom <= bottom + rounding;
+  }
   Point centre() const { return {(left + right) / 2, (top + bottom) / 2}; }
 };
 

@@ -4,10 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include "Tonelake/theory/note.h"
-#include "Tonelake/theory/note_number.h"
-#include "Tonelake/theory/spelling_tables.h"
-
 namespace tonelake {
 namespace {
 
@@ -55,30 +51,6 @@ TEST(Interval, NamesFormulaTokens) {
   for (const auto& [token, name] : rows) {
     EXPECT_EQ(Interval::getIntervalFromAlteredScaleDegree(token), name) << token;
   }
-}
-
-// Every name in the tables is a note of the pitch at which it stands.
-TEST(SpellingTables, AgreeWithTheNotes) {
-  for (const SpellingTable* table : spellingTables) {
-    for (std::size_t i = 0; i < table->size(); ++i) {
-      const auto note = Note::fromRawValue((*table)[i]);
-      ASSERT_TRUE(note.has_value()) << (*table)[i];
-      EXPECT_EQ(note->pitchClass(), static_cast<int>(i % 12)) << (*table)[i];
-      EXPECT_EQ(noteIndexByName().at((*table)[i]), note->pitchClass());
-    }
-  }
-  EXPECT_EQ(noteIndexByName().size(), noteCount);
-}
-
-TEST(NoteNumber, IsSpelledWithSharps) {
-  const std::pair<WholeNumber, std::optional<NoteAndOctave>> rows[] = {
-      {12, {{Note::C, 0}}}, {70, {{Note::As, 4}}},   {127, {{Note::G, 9}}}, {128, {}}, {-1, {}},
-      {INT64_MIN, {}},      {1099511627776 + 60, {}}};
-  for (const auto& [number, expected] : rows) EXPECT_EQ(getNote(number), expected) << number;
-}
-
-TEST(NoteNumberDeathTest, StopsBelowTheFirstOctave) {
-  EXPECT_DEATH(getNote(11), "0 to 11");
 }
 
 }  // namespace

@@ -1,37 +1,23 @@
 // The month of reminders, from a clock that stands still and dice that are loaded.
 
-#include <deque>
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "Desktop/gregorian_calendar.h"
 #include "Tonelake/chords/chord_naming.h"
 #include "Tonelake/platform/notification_request_list.h"
-#include "Tonelake/platform/random_choice.h"
 #include "Tonelake/today/notification_identifier.h"
 #include "Tonelake/today/notification_texts.h"
 #include "Tonelake/today/today_chord_library.h"
 #include "tests/support/fixed_calendar.h"
 #include "tests/support/recording_diagnostics.h"
+#include "tests/support/scripted_random.h"
 
 namespace tonelake {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::SizeIs;
-
-// Numbers in their order, and 5, which nothing rejects, when they are used up.
-class ScriptedRandom final : public RandomSource {
- public:
-  std::deque<std::uint64_t> numbers;
-  std::uint64_t next() override {
-    if (numbers.empty()) return 5;
-    const std::uint64_t number = numbers.front();
-    numbers.pop_front();
-    return number;
-  }
-};
 
 // A number that becomes `result`, 0 to `bound` - 1.
 std::uint64_t numberFor(std::uint64_t result, std::uint64_t bound) {
@@ -104,7 +90,7 @@ TEST_F(MonthlyNotifications, CoverWhatIsLeftOfTheMonth) {
 }
 
 TEST_F(MonthlyNotifications, DrawTimeTitleAndBodyInThisOrder) {
-  const auto random = std::make_shared<ScriptedRandom>();
+  const auto random = std::make_shared<testing::ScriptedRandom>();
   platform.random = random;
   // The 28 days before draw a time each and are over all the same.
   for (int day = 1; day < 29; ++day) random->numbers.insert(random->numbers.end(), {5, 5});
@@ -120,7 +106,7 @@ TEST_F(MonthlyNotifications, DrawTimeTitleAndBodyInThisOrder) {
 
 TEST_F(MonthlyNotifications, TellWhichOneWasNotTaken) {
   platform.notifications = Platform().notifications;
-  platform.random = std::make_shared<ScriptedRandom>();
+  platform.random = std::make_shared<testing::ScriptedRandom>();
   schedule("Asia/Tokyo", {2024, 2, 29, 0, 0, 0}, ChordCategory::beginner, 0);
   EXPECT_THAT(diagnostics->lines(),
               ElementsAre("Notification scheduling failed for 2024-02-28 23:00:00 +0000: there is "
@@ -133,34 +119,7 @@ TEST_F(MonthlyNotifications, CoverThirtyDaysOfAMonthWithoutAnEnd) {
   EXPECT_THAT(center->requests, SizeIs(30));
 }
 
-TEST(RandomChoice, IsUnbiasedToItsEdges) {
-  constexpr std::uint64_t last = ~std::uint64_t{0};
-  constexpr std::uint64_t inverse = 0x6DB6'DB6D'B6DB'6DB7U;  // 7 * inverse = 1
-  struct Row {
-    std::uint32_t bound;
-    std::deque<std::uint64_t> numbers;
-    std::uint32_t result;
-    std::size_t left;  // numbers that are not drawn
-  };
-  // Low words of 0 and 1 are rejected for 7, those below 16 for 60.
-  const Row rows[] = {{7, {0, inverse, last, 5}, 6, 1},
-                      {7, {1, 5}, 0, 1},
-                      {7, {2 * inverse, 5}, 6, 1},
-                      {7, {last / 7, 5}, 0, 1},
-                      {7, {last / 7 + 1, 5}, 1, 1},
-                      {16, {0, 5}, 0, 1},
-                      {16, {last, 5}, 15, 1},
-                      {60, {0, 1, 5}, 0, 1},
-                      {1, {77, 5}, 0, 1}};
-  for (const Row& row : rows) {
-    ScriptedRandom random;
-    random.numbers = row.numbers;
-    EXPECT_EQ(randomBelow(random, row.bound), row.result) << row.bound << " " << row.numbers[0];
-    EXPECT_THAT(random.numbers, SizeIs(row.left)) << row.bound << " " << row.numbers[0];
-  }
-}
-
-TEST(NotificationIdentifier, IsReadBackInItsOnlyForm) {
+TEST_F(MonthlyNotifications, HaveIdentifiersThatAreReadBackInTheirOnlyForm) {
   const ReminderKey key{ChordCategory::jazz, 2025, 3, 7};
   EXPECT_EQ(notificationIdentifier(key), "chordOfTheDay_jazz_2025_3_7");
   EXPECT_EQ(parseNotificationIdentifier("chordOfTheDay_jazz_2025_3_7"), key);

@@ -7,11 +7,8 @@
 #include <gtest/gtest.h>
 
 #include "Tonelake/chords/chord_data_manager.h"
-#include "Tonelake/chords/chord_json.h"
 #include "Tonelake/fingering/chord_positions.h"
-#include "Tonelake/foundation/text.h"
-#include "Tonelake/platform/calendar.h"
-#include "Tonelake/today/plain_chord_list.h"
+#include "tests/support/fixed_calendar.h"
 #include "tests/support/printing.h"
 
 namespace tonelake {
@@ -46,7 +43,7 @@ MapBundle bundleOf(int count) {
 }
 
 Instant day(int year, int month, int dayOfMonth) {
-  return *makeUtcCalendar()->instant({year, month, dayOfMonth, 12, 0, 0});
+  return testing::utc({year, month, dayOfMonth, 12, 0, 0});
 }
 
 TEST(TodayChordLibrary, FillsAYearFromAnyList) {
@@ -71,20 +68,11 @@ TEST(TodayChordLibrary, ChoosesByTheDayOfTheYear) {
   }
 }
 
-class SilentCalendar final : public Calendar {
- public:
-  Instant now() const override { return {}; }
-  std::string timeZone() const override { return "UTC"; }
-  std::optional<int> ordinalOfDay(Instant) const override { return std::nullopt; }
-  std::optional<YearMonth> month(Instant, long long) const override { return std::nullopt; }
-  std::optional<int> lastDayOfMonth(YearMonth) const override { return std::nullopt; }
-  std::optional<Instant> instant(const LocalTime&) const override { return std::nullopt; }
-  std::optional<Instant> nextMidnight(Instant) const override { return std::nullopt; }
-};
-
 TEST(TodayChordLibrary, HasNoChordWithoutAnOrdinal) {
-  const TodayChordLibrary library(bundleOf(366), std::make_shared<SilentCalendar>());
-  EXPECT_EQ(library.chordOfTheDay(day(2025, 1, 1), ChordCategory::jazz), std::nullopt);
+  const auto calendar = std::make_shared<testing::FixedCalendar>(day(2025, 1, 1));
+  calendar->knowsDays = false;
+  const TodayChordLibrary library(bundleOf(366), calendar);
+  EXPECT_EQ(library.chordOfTheDay(calendar->now(), ChordCategory::jazz), std::nullopt);
 }
 
 TEST(TodayChordLibraryDeathTest, StopsWithoutAWordOnABrokenPackage) {
@@ -98,7 +86,7 @@ TEST(TodayChordLibraryDeathTest, StopsWithoutAWordOnABrokenPackage) {
   EXPECT_DEATH(empty.chordOfTheDay(day(2025, 1, 1), ChordCategory::jazz), "empty");
 }
 
-TEST(ChordCategory, IsFoundByItsExactName) {
+TEST(TodayChordLibrary, HasCategoriesOfExactNames) {
   for (const ChordCategory category : ChordCategory::allCases()) {
     EXPECT_EQ(ChordCategory::fromRawValue(category.id()), category);
   }
@@ -170,30 +158,6 @@ TEST(ShippedLists, SpareBeginnersTheBarre) {
     barres += index > 1 ? 1 : 0;
   }
   EXPECT_LE(barres, 183);
-}
-
-// What is read fast is read as the JSON decoder reads it; the decoder is left what is not plain.
-TEST(PlainChordList, AgreesWithTheJsonDecoder) {
-  const auto resources = makeEmbeddedResourceBundle();
-  std::vector<std::string> plain{
-      "[\n{\"rootNote\":\"F♯\",\"chordType\":\"a ♭\",\"variant\":12}\n]\n"};
-  for (const char* name : {"beginner_chords", "advanced_chords", "jazz_chords"}) {
-    plain.push_back(*resources->load(name, "json"));
-  }
-  for (const std::string& text : plain) {
-    const json::Value document = json::parse(text);
-    EXPECT_EQ(readPlainChordList(text), json::decodeList(json::Node(document), decodeChord))
-        << text;
-  }
-  const std::pair<const char*, const char*> changes[] = {
-      {"F♯", "F"},     {"F♯", "H"},    {"F♯", "F\\u266f"},
-      {"a ♭", "\xFF"}, {"a ♭", "a\n"}, {"12", "-1"},
-      {"12", "01"},    {"12", "1.5"},  {"12", "99999999999999999999"},
-      {"}", "},"},     {"]", "]]"},    {"]", ""}};
-  for (const auto& [from, to] : changes) {
-    const std::string text = replaceAll(plain.front(), from, to);
-    EXPECT_EQ(readPlainChordList(text).has_value(), to == std::string("F")) << text;
-  }
 }
 
 TEST(ShippedLists, AreGivenTogetherInOrder) {

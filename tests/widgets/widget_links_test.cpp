@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "Tonelake/chords/chord_data_manager.h"
+#include "tests/support/printing.h"
 
 namespace todaychord {
 namespace {

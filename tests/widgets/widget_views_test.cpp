@@ -70,16 +70,7 @@ void forEveryScene(Check check) {
 }
 
 Box boxOf(const Rectangle& frame) {
-  Box box;
-  box.include({frame.x, frame.y});
-  box.include({frame.x + frame.width, frame.y + frame.height});
-  return box;
-}
-
-bool contains(const Box& outer, const Box& inner) {
-  constexpr double rounding = 1e-6;
-  return inner.left >= outer.left - rounding && inner.top >= outer.top - rounding &&
-         inner.right <= outer.right + rounding && inner.bottom <= outer.bottom + rounding;
+  return {frame.x, frame.y, frame.x + frame.width, frame.y + frame.height};
 }
 
 bool overlap(const Box& a, const Box& b) {
@@ -88,13 +79,13 @@ bool overlap(const Box& a, const Box& b) {
 
 TEST(WidgetViews, KeepEverythingInsideTheWidgetAndItsCards) {
   forEveryScene([](const WidgetEntry&, const Scene& scene) {
-    const Box whole = boxOf(Rectangle{0, 0, scene.width, scene.height});
+    const Box whole{0, 0, scene.width, scene.height};
     const auto links = collect<LinkArea>(scene.items);
     const auto expectInside = [&](const Box& box, const std::string& what) {
-      EXPECT_TRUE(contains(whole, box)) << what << ": " << describe(box);
+      EXPECT_TRUE(whole.contains(box)) << what << ": " << describe(box);
       for (const LinkArea& link : links) {
         const Box card = boxOf(link.frame);
-        EXPECT_TRUE(contains(card, box) || contains(box, card) || !overlap(card, box))
+        EXPECT_TRUE(card.contains(box) || box.contains(card) || !overlap(card, box))
             << what << ": " << describe(box) << " crosses the edge of " << link.label;
       }
     };
@@ -117,10 +108,7 @@ TEST(WidgetViews, KeepTextsApart) {
         boxes.emplace_back(text->text, boxOf(*text));
       } else if (const auto* group = std::get_if<SceneGroup>(&item.content)) {
         Box box;
-        for (const PathItem& path : collect<PathItem>(group->items)) {
-          box.include({boxOf(path).left, boxOf(path).top});
-          box.include({boxOf(path).right, boxOf(path).bottom});
-        }
+        for (const PathItem& path : collect<PathItem>(group->items)) box.unite(boxOf(path));
         boxes.emplace_back(group->name, box);
       }
     }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <tuple>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,7 +10,6 @@
 #include "Tonelake/chords/chord_naming.h"
 #include "Tonelake/foundation/text.h"
 #include "tests/support/printing.h"
-#include "zyndle/nearest_names.h"
 
 namespace zyndle {
 namespace {
@@ -91,16 +89,6 @@ TEST(ChordName, NoNameChangesItsChordByBeingTypedCarelessly) {
     EXPECT_EQ(plain->rootNote, chord.rootNote) << name;
     EXPECT_EQ(plain->variant, chord.variant) << name;
   }
-}
-
-TEST(EditDistance, CountsBytesToChange) {
-  const std::tuple<const char*, const char*, std::size_t, std::size_t> rows[] = {
-      {"Am7", "Am7", 0, 0}, {"Am7", "Am", 3, 1},         {"Am", "Am7", 3, 1},
-      {"Am7", "m7A", 3, 2}, {"kitten", "sitting", 5, 3}, {"", "abc", 3, 3}};
-  for (const auto& [one, other, limit, distance] : rows) {
-    EXPECT_EQ(editDistance(one, other, limit), distance) << one << other;
-  }
-  EXPECT_GT(editDistance("kitten", "sitting", 2), 2U);
 }
 
 }  // namespace

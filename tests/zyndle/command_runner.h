@@ -17,10 +17,11 @@ class CommandRunner {
  public:
   tonelake::testing::ProgramResult run(std::vector<std::string> arguments,
                                        const std::string& zone = "UTC",
-                                       const std::string& outputFile = "") const {
+                                       const std::string& outputFile = "",
+                                       std::vector<std::string> environment = {}) const {
     arguments.insert(arguments.begin(), ZYNDLE_PROGRAM);
-    return tonelake::testing::runProgram(
-        {arguments, {"TZ=" + zone, "XDG_DATA_HOME=" + folder_.path()}, "", outputFile});
+    environment.insert(environment.end(), {"TZ=" + zone, "XDG_DATA_HOME=" + folder_.path()});
+    return tonelake::testing::runProgram({arguments, environment, "", outputFile});
   }
 
   tonelake::json::Value json(const std::vector<std::string>& arguments,

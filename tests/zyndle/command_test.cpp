@@ -91,11 +91,7 @@ TEST_F(Command, RefusesBadArgumentsInOneLine) {
 
 // Entry (day of the year - 1) of the list, in every time zone the same calendar day.
 TEST_F(Command, EveryDayHasItsChord) {
-  struct Row {
-    const char* date;
-    std::size_t ordinal;
-  };
-  const Row rows[] = {
+  const std::pair<const char*, std::size_t> rows[] = {
       {"2024-01-01", 1},   {"2024-02-29", 60},  {"2024-03-01", 61}, {"2024-12-31", 366},
       {"2025-01-01", 1},   {"2025-02-28", 59},  {"2025-03-01", 60}, {"2025-12-31", 365},
       {"1900-12-31", 365}, {"2000-12-31", 366}, {"0001-01-01", 1},  {"9999-12-31", 365},
@@ -104,14 +100,14 @@ TEST_F(Command, EveryDayHasItsChord) {
   const std::array lists{&library.beginnerChords, &library.advancedChords, &library.jazzChords};
   const std::array<std::string, 3> categories{"beginner", "advanced", "jazz"};
   for (const char* zone : {"UTC", "Pacific/Kiritimati", "America/Los_Angeles"}) {
-    for (const Row& row : rows) {
-      const std::size_t turn = row.ordinal % categories.size();
-      SCOPED_TRACE(std::string(row.date) + " " + zone + " " + categories[turn]);
+    for (const auto& [date, ordinal] : rows) {
+      const std::size_t turn = ordinal % categories.size();
+      SCOPED_TRACE(std::string(date) + " " + zone + " " + categories[turn]);
       const Value today =
-          json({"today", "--json", "--date", row.date, "--category", categories[turn]}, zone);
-      EXPECT_EQ(today["date"], row.date);
+          json({"today", "--json", "--date", date, "--category", categories[turn]}, zone);
+      EXPECT_EQ(today["date"], date);
       EXPECT_EQ(today["category"], categories[turn]);
-      EXPECT_EQ(today["chord"], tonelake::encodeChord(lists[turn]->at(row.ordinal - 1)));
+      EXPECT_EQ(today["chord"], tonelake::encodeChord(lists[turn]->at(ordinal - 1)));
     }
   }
 }

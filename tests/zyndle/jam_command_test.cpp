@@ -1,8 +1,5 @@
 // Runs `zyndle jam` and `zyndle patterns` as a user would.
 
-#include <filesystem>
-#include <fstream>
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -19,13 +16,6 @@ using testing::StartsWith;
 
 class JamCommand : public testing::Test, protected CommandRunner {
  protected:
-  std::string path(const std::string& name) const { return folder_.path() + "/" + name; }
-
-  std::string write(const std::string& name, const std::string& contents) const {
-    std::ofstream(path(name)) << contents;
-    return path(name);
-  }
-
   // As another MIDI library reads it.
   static std::string readMidi(const std::string& file) {
     const auto result =
@@ -36,7 +26,7 @@ class JamCommand : public testing::Test, protected CommandRunner {
 };
 
 TEST_F(JamCommand, WritesMidiFiles) {
-  const std::string file = path("song.mid");
+  const std::string file = folder_.path("song.mid");
   const auto told = run({"jam", "I-V-vi–IV", "--key", "G", "--style", "four downstrokes",
                          "--complexity", "0", "--tempo", "100", "-o", file});
   EXPECT_EQ(told.status, 0) << told.errors;
@@ -52,7 +42,7 @@ TEST_F(JamCommand, WritesMidiFiles) {
   // A waltz for bass alone, to standard output.
   const auto bytes = run({"jam", "Am | E7", "--style", "Rolling Six", "--drums", "none", "--bass",
                           "walking waltz", "--no-guitar", "--bars", "3", "-o", "-"});
-  EXPECT_EQ(readMidi(write("waltz.mid", bytes.output)),
+  EXPECT_EQ(readMidi(folder_.write("waltz.mid", bytes.output)),
             "format 1, 480 ticks, 5.870 seconds\n"
             "Am | E7: metre 3/4, tempo 652173; 0 notes [] on []; ends at 4320\n"
             "Bass: program 33; 9 notes [28, 32, 33, 35, 36, 40] on [7]; ends at 4320\n");
@@ -66,12 +56,13 @@ TEST_F(JamCommand, DrawsPatternsAndReadsThemBack) {
                               "downstroke  |O - o - - - o -\n"
                               "upstroke    |- - - o - o - o\n"),
                     HasSubstr("Anthem (3)")));
-  const std::string library = write("mine.json", run({"patterns", "Rolling Six", "--json"}).output);
+  const std::string library =
+      folder_.write("mine.json", run({"patterns", "Rolling Six", "--json"}).output);
   EXPECT_THAT(run({"patterns", "--library", library}).output,
               StartsWith("Ways to pick and strum\n  Rolling Six               3/4, 1 bar\n\n"));
   const std::string unclean = tonelake::replaceAll(*desktop::readFile(library, 1 << 20),
                                                    "Rolling Six", R"(転がる\u001b[2J)");
-  EXPECT_THAT(run({"patterns", "--library", write("unclean.json", unclean)}).output,
+  EXPECT_THAT(run({"patterns", "--library", folder_.write("unclean.json", unclean)}).output,
               HasSubstr("  転がる\uFFFD[2J                3/4, 1 bar\n"));
 }
 
@@ -80,13 +71,13 @@ TEST_F(JamCommand, RefusesInOneLine) {
                             R"("name":"n","description":"d","sequence":)";
   const std::string end = R"(,"timeSignature":"4/4","associatedBassPatterns":[],)"
                           R"("associatedDrumPatterns":[]}]})";
-  const std::string silent = write("silent.json", start + "[[],[]]" + end);
+  const std::string silent = folder_.write("silent.json", start + "[[],[]]" + end);
   const auto jam = [](std::vector<std::string> arguments) {
     arguments.insert(arguments.begin(), {"jam", "C"});
     return arguments;
   };
   const auto fromFile = [&](const std::string& name, const std::string& contents) {
-    return jam({"-o", path("x.mid"), "--library", write(name, contents)});
+    return jam({"-o", folder_.path("x.mid"), "--library", folder_.write(name, contents)});
   };
   struct Row {
     std::vector<std::string> arguments;
@@ -97,7 +88,7 @@ TEST_F(JamCommand, RefusesInOneLine) {
       {{"jam"}, "CHORDS is missing"},
       {jam({}), "say where the music goes"},
       {jam({"-o", "song.ogg"}), "\"song.ogg\" ends neither in .mid nor in .wav"},
-      {jam({"-o", path("no/song.mid")}), "no/song.mid", 1},
+      {jam({"-o", folder_.path("no/song.mid")}), "no/song.mid", 1},
       {{"jam", "C H", "-o", "-"}, "no chord is named \"H\""},
       {{"jam", "I-V7", "-o", "-"}, "\"V7\" is not a plain triad"},
       {{"jam", "I-V", "--key", "G7", "-o", "-"}, "--key \"G7\" is not a key"},
@@ -106,10 +97,10 @@ TEST_F(JamCommand, RefusesInOneLine) {
       {jam({"-o", "-", "--drums", "Jazz Waltz"}), "\"Jazz Waltz\" is in 3/4, the style in 4/4"},
       {jam({"-o", "-", "--tempo", "0"}), "--tempo \"0\" is not a whole number from 20 to 400"},
       {jam({"-o", "-", "--bars", "257"}), "--bars \"257\""},
-      {jam({"-o", path("x.wav")}), "apt-get install fluidsynth fluid-soundfont-gm", 1},
+      {jam({"-o", folder_.path("x.wav")}), "apt-get install fluidsynth fluid-soundfont-gm", 1},
       {jam({"--play"}), "apt-get install fluidsynth fluid-soundfont-gm", 1},
       {{"patterns", "waltz polka"}, "no pattern is named \"waltz polka\""},
-      {{"patterns", "--library", path("none.json")}, "cannot read"},
+      {{"patterns", "--library", folder_.path("none.json")}, "cannot read"},
       {fromFile("text.json", "[1, 2"), "not JSON"},
       {fromFile("deep.json", start + std::string(100000, '[')), "nested deeper than 32 levels"},
       {fromFile("huge.json", std::string(2000000, ' ') + "{}"), "larger than 1 MiB"},
@@ -126,7 +117,7 @@ TEST_F(JamCommand, RefusesInOneLine) {
     EXPECT_THAT(result.errors, AllOf(StartsWith("zyndle: "), HasSubstr(row.problem)));
     EXPECT_EQ(countLines(result.errors), 1U);
   }
-  EXPECT_EQ(run(jam({"-o", path("x.mid"), "--library", silent, "--style", "n"})).status, 0);
+  EXPECT_EQ(run(jam({"-o", folder_.path("x.mid"), "--library", silent, "--style", "n"})).status, 0);
   EXPECT_THAT(run({"patterns", "n", "--library", silent}).output, HasSubstr("takes no time"));
 }
 

@@ -1,4 +1,4 @@
-#include "tests/zyndle/rpc_answers.h"
+#include "tests/zyndle/rpc/rpc_answers.h"
 
 #include <cstdio>
 #include <fstream>

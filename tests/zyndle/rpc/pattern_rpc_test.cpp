@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "Tonelake/foundation/json.h"
-#include "tests/zyndle/rpc_answers.h"
+#include "tests/zyndle/rpc/rpc_answers.h"
 
 namespace zyndle {
 namespace {

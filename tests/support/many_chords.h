@@ -9,6 +9,19 @@
 
 namespace tonelake::testing {
 
+/// Every chord that is offered: 17 roots, 49 types, every variant.
+template <typename Visit>
+void forEveryChord(Visit visit) {
+  for (const Note root : ChordDataManager::shared().allRootNotes()) {
+    for (const std::string& type : chordTypes()) {
+      const auto variants = static_cast<WholeNumber>(Chords::getChordData(type)->notes.size());
+      for (WholeNumber variant = 0; variant < variants; ++variant) {
+        visit(Chord{root, type, variant});
+      }
+    }
+  }
+}
+
 inline Note randomNote(std::mt19937& random) {
   return Note::allCases()[random() % noteCount];
 }

@@ -10,7 +10,7 @@
 
 #include "Tonelake/foundation/json.h"
 #include "Tonelake/platform/platform.h"
-#include "tests/zyndle/rpc_answers.h"
+#include "tests/zyndle/rpc/rpc_answers.h"
 
 namespace zyndle {
 namespace {

@@ -1,11 +1,12 @@
 // A host whose clock and sleep are ours.
 
+#include "zyndle/hosting/host_loop.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "TodayChordExtension/widgets/shared_settings.h"
 #include "tests/support/fixed_calendar.h"
-#include "zyndle/hosting/host_loop.h"
 #include "zyndle/hosting/widget_timelines.h"
 
 namespace zyndle {
@@ -62,7 +63,7 @@ class FakedNight final : public WakeUps {
 // The night of 31 December: ordinal 366, then 1.
 const Instant evening = tonelake::testing::utc({2024, 12, 31, 23, 58, 30});
 
-TEST(Host, DrawsAnewAtMidnightAndForSettings) {
+TEST(HostLoop, DrawsAnewAtMidnightAndForSettings) {
   FakedNight night(evening, {{WakeUp::time, {}, {}},                         // 23:59:30
                              {WakeUp::time, {}, {}},                         // 0:00:00
                              {WakeUp::time, {}, {}},                         // 0:01:00
@@ -97,7 +98,7 @@ TEST(Host, DrawsAnewAtMidnightAndForSettings) {
   EXPECT_EQ(beats, 8);
 }
 
-TEST(Host, SleepsUntilTheEarliestWishButNotInThePast) {
+TEST(HostLoop, SleepsUntilTheEarliestWishButNotInThePast) {
   FakedNight night(evening, {{WakeUp::time, {}, {}}, {WakeUp::time, {}, {}}});
   const HostDuty soon = [](WakeUp, Instant now) { return now + milliseconds(20500); };
   const HostDuty late = [](WakeUp, Instant now) { return now - minutes(5); };
