@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 
 #include "Desktop/lazy_settings_store.h"
+#include "Desktop/translation.h"
 #include "Desktop/write_behind_store.h"
 
 namespace desktop {
@@ -52,10 +53,12 @@ SettingsFiles settingsFiles(const DataHome& home) {
 SqliteSettingsStore::Opening openSettingsFile(const std::string& file,
                                               std::shared_ptr<tonelake::Diagnostics> diagnostics) {
   if (!isAbsolute(file)) {
-    return {nullptr, file + ": neither XDG_DATA_HOME nor HOME says which folder it belongs to"};
+    return {nullptr,
+            translated("{}: neither XDG_DATA_HOME nor HOME says which folder it belongs to", file)};
   }
   if (!makeFoldersFor(file)) {
-    return {nullptr, file + ": cannot make its folder: " + std::generic_category().message(errno)};
+    return {nullptr, translated("{0}: cannot make its folder: {1}", file,
+                                std::generic_category().message(errno))};
   }
   return SqliteSettingsStore::open(file, std::move(diagnostics));
 }
@@ -65,7 +68,7 @@ std::shared_ptr<tonelake::SettingsStore> makeStandardSettings(
   return makeLazySettingsStore([file, diagnostics]() -> std::shared_ptr<tonelake::SettingsStore> {
     auto [store, problem] = openSettingsFile(file, diagnostics);
     if (store != nullptr) return makeWriteBehindStore(std::move(store));
-    diagnostics->write(problem + "; generated positions are not kept");
+    diagnostics->write(translated("{}; generated positions are not kept", problem));
     return tonelake::makeMemorySettingsStore();
   });
 }

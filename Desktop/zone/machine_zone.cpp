@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "Desktop/files.h"
+#include "Desktop/translation.h"
 #include "Desktop/zone/zone_file.h"
 
 namespace desktop {
@@ -94,12 +95,12 @@ std::optional<NamedZone> findZone(const std::string& zoneFolder, const std::stri
 MachineZone findMachineZone(const ZoneSources& sources) {
   if (sources.variable) {
     if (auto zone = zoneOfVariable(sources)) return {std::move(*zone), ""};
-    return {universalTime(),
-            "TZ is \"" + *sources.variable + "\", which names no known time zone: using UTC"};
+    return {universalTime(), translated("TZ is {}, which names no known time zone: using UTC",
+                                        '"' + *sources.variable + '"')};
   }
   if (auto zone = zoneOfSettings(sources)) return {std::move(*zone), ""};
-  return {universalTime(), "this machine's time zone is unknown (" + sources.localTimeFile + ", " +
-                               sources.zoneNameFile + "): using UTC"};
+  return {universalTime(), translated("this machine's time zone is unknown ({0}, {1}): using UTC",
+                                      sources.localTimeFile, sources.zoneNameFile)};
 }
 
 }  // namespace desktop
