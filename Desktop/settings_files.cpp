@@ -1,12 +1,12 @@
 #include "Desktop/settings_files.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <system_error>
 #include <utility>
 
 #include <sys/stat.h>
 
+#include "Desktop/environment.h"
 #include "Desktop/lazy_settings_store.h"
 #include "Desktop/translation.h"
 #include "Desktop/write_behind_store.h"
@@ -16,11 +16,6 @@ namespace {
 
 bool isAbsolute(const std::optional<std::string>& path) {
   return path && path->starts_with('/');
-}
-
-std::optional<std::string> environmentVariable(const char* name) {
-  const char* value = std::getenv(name);
-  return value != nullptr ? std::optional<std::string>(value) : std::nullopt;
 }
 
 // Makes every folder on the way to `file` that is missing; false when one cannot be made. What

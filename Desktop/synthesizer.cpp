@@ -4,7 +4,6 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <vector>
@@ -14,6 +13,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "Desktop/environment.h"
 #include "Desktop/files.h"
 #include "Desktop/memory_file.h"
 #include "Desktop/translation.h"
@@ -44,15 +44,6 @@ constexpr std::size_t largestWav = std::size_t{1} << 31U;  // more than three ho
 constexpr std::size_t placeOfRiffLength = 4;
 constexpr std::size_t placeOfDataLength = 40;
 constexpr std::size_t placeOfSamples = 44;
-
-std::string findProgram() {
-  const char* path = std::getenv("PATH");
-  for (const std::string_view folder : tonelake::split(path == nullptr ? "" : path, ':')) {
-    std::string candidate = std::string(folder) + "/" + programName;
-    if (!folder.empty() && ::access(candidate.c_str(), X_OK) == 0) return candidate;
-  }
-  return "";
-}
 
 bool isReadable(const std::string& path) {
   return std::filesystem::is_regular_file(path) && ::access(path.c_str(), R_OK) == 0;
@@ -139,7 +130,7 @@ void cutWav(std::string& file, std::size_t seconds) {
 
 std::optional<Synthesizer> findSynthesizer(const std::optional<std::string>& soundfont,
                                            std::string& problem) {
-  Synthesizer found{findProgram(), soundfont.value_or(findSoundfont())};
+  Synthesizer found{findProgram(programName).value_or(""), soundfont.value_or(findSoundfont())};
   if (found.program.empty() && found.soundfont.empty()) {
     problem =
         translated("sound needs the program fluidsynth and a soundfont; to install: {}", advice);

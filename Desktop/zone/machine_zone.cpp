@@ -1,13 +1,13 @@
 #include "Desktop/zone/machine_zone.h"
 
 #include <array>
-#include <cstdlib>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include <unistd.h>
 
+#include "Desktop/environment.h"
 #include "Desktop/files.h"
 #include "Desktop/translation.h"
 #include "Desktop/zone/zone_file.h"
@@ -82,8 +82,8 @@ std::optional<NamedZone> zoneOfVariable(const ZoneSources& sources) {
 
 ZoneSources zoneSourcesOfThisMachine() {
   ZoneSources sources;
-  if (const char* variable = std::getenv("TZ")) sources.variable = variable;
-  if (const char* folder = std::getenv("TZDIR")) sources.zoneFolder = folder;
+  sources.variable = environmentVariable("TZ");
+  if (auto folder = environmentVariable("TZDIR")) sources.zoneFolder = *std::move(folder);
   return sources;
 }
 
