@@ -4,6 +4,7 @@
 
 #include "Tonelake/chords/chord_spelling.h"
 #include "Tonelake/theory/note.h"
+#include "Tonelake/theory/octave.h"
 #include "Tonelake/theory/spelling_tables.h"
 
 namespace todaychord {
@@ -87,17 +88,18 @@ std::string spellInChord(std::size_t pitchClass, const std::vector<std::string>&
 }
 
 std::vector<NoteLabel> placeNoteLabels(const ChordView& view) {
-  constexpr WholeNumber octave = 12;
   const std::vector<std::string> tones = tonelake::Chords::getNotesOfChord(view.chord);
   std::vector<NoteLabel> labels;
   constexpr std::size_t strings = metrics::stringCount;
   for (std::size_t i = 0; i < std::min({strings, view.position.size(), view.tuning.size()}); ++i) {
     const auto open = Note::fromRawValue(view.tuning[i]);
     if (view.position[i] == muted || !open) continue;
-    const WholeNumber pitch = open->pitchClass() + octave + view.position[i] % octave;
+    const WholeNumber pitch =
+        open->pitchClass() + tonelake::octave + view.position[i] % tonelake::octave;
     const int string =
         (view.isLeftHanded ? metrics::stringCount - 1 - static_cast<int>(i) : static_cast<int>(i));
-    labels.push_back({string, spellInChord(static_cast<std::size_t>(pitch % octave), tones),
+    labels.push_back({string,
+                      spellInChord(static_cast<std::size_t>(pitch % tonelake::octave), tones),
                       at(metrics::noteLabelX, metrics::stringPitch, string), metrics::noteLabelY});
   }
   std::sort(labels.begin(), labels.end(),
