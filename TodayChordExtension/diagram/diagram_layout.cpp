@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "Tonelake/chords/chord_spelling.h"
+#include "Tonelake/fingering/finger_rules.h"
 #include "Tonelake/theory/note.h"
 #include "Tonelake/theory/octave.h"
 #include "Tonelake/theory/spelling_tables.h"
@@ -13,7 +14,6 @@ namespace {
 using tonelake::Note;
 
 constexpr WholeNumber muted = -1;
-constexpr WholeNumber littleFinger = 4;
 
 double at(double first, double pitch, WholeNumber index) {
   return first + pitch * static_cast<double>(index);
@@ -56,7 +56,7 @@ std::vector<FingerDot> placeDots(const WholeNumbers& frets, const WholeNumbers& 
 // the two gives the row.
 std::vector<BarreSegment> placeBarres(const WholeNumbers& frets, const WholeNumbers& fingers) {
   std::vector<BarreSegment> barres;
-  for (WholeNumber finger = 1; finger <= littleFinger; ++finger) {
+  for (WholeNumber finger = 1; finger <= tonelake::littleFinger; ++finger) {
     int previous = -1;
     for (std::size_t i = 0; i < std::min(frets.size(), fingers.size()); ++i) {
       if (fingers[i] != finger) continue;
