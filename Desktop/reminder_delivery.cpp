@@ -1,6 +1,5 @@
 #include "Desktop/reminder_delivery.h"
 
-#include <algorithm>
 #include <chrono>
 
 #include "Desktop/translation.h"

@@ -1,6 +1,5 @@
 #include "zyndle/reminder_installation.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <optional>
 #include <string>
