@@ -11,6 +11,7 @@
 #include "Desktop/glyph_layout.h"
 #include "Desktop/number_text.h"
 #include "Desktop/png_writer.h"
+#include "Desktop/translation.h"
 
 namespace desktop {
 namespace {
@@ -36,14 +37,15 @@ std::string formatSize(double width, double height) {
 std::string findSizeProblem(const Scene& scene) {
   const bool isSize = std::isfinite(scene.width) && std::isfinite(scene.height) &&
                       scene.width > 0 && scene.height > 0;
-  return isSize ? "" : "a picture of " + formatSize(scene.width, scene.height) + " points is none";
+  if (isSize) return "";
+  return translated("a picture of {} points is none", formatSize(scene.width, scene.height));
 }
 
 std::string findScaleProblem(double scale) {
-  if (!std::isfinite(scale)) return "the scale is not a number";
+  if (!std::isfinite(scale)) return translated("the scale is not a number");
   if (scale > 0 && scale <= largestScale) return "";
-  return "the scale is " + formatNumber(scale) + ", not above 0 and at most " +
-         formatNumber(largestScale);
+  return translated("the scale is {0}, not above 0 and at most {1}", formatNumber(scale),
+                    formatNumber(largestScale));
 }
 
 // 150 points at scale 1.1 are 165 pixels, and not 166 because of the last digit of a product.
@@ -56,8 +58,9 @@ std::string findPixelProblem(double width, double height) {
   if (width <= longestImageSide && height <= longestImageSide && width * height <= mostPixels) {
     return "";
   }
-  return "a picture of " + formatSize(width, height) + " pixels is too large: at most " +
-         formatNumber(longestImageSide) + " a side and " + formatNumber(mostPixels) + " in all";
+  return translated("a picture of {0} pixels is too large: at most {1} a side and {2} in all",
+                    formatSize(width, height), formatNumber(longestImageSide),
+                    formatNumber(mostPixels));
 }
 
 cairo_status_t append(void* bytes, const unsigned char* data, unsigned int length) {
@@ -76,7 +79,7 @@ void describe(cairo_surface_t* document, const Scene& scene) {
 
 RenderedPicture finish(std::string bytes, cairo_status_t status) {
   if (status == CAIRO_STATUS_SUCCESS) return {std::move(bytes), ""};
-  return failure(std::string("the picture cannot be drawn: ") + cairo_status_to_string(status));
+  return failure(translated("the picture cannot be drawn: {}", cairo_status_to_string(status)));
 }
 
 }  // namespace
@@ -105,8 +108,8 @@ RenderedPicture renderPng(const Scene& scene, double scale) {
 RenderedPicture renderPdf(const Scene& scene) {
   std::string problem = findSizeProblem(scene);
   if (problem.empty() && std::fmax(scene.width, scene.height) > longestPageSide) {
-    problem = "a page of " + formatSize(scene.width, scene.height) +
-              " points is too large: at most " + formatNumber(longestPageSide) + " a side";
+    problem = translated("a page of {0} points is too large: at most {1} a side",
+                         formatSize(scene.width, scene.height), formatNumber(longestPageSide));
   }
   if (!problem.empty()) return failure(std::move(problem));
   std::string bytes;

@@ -11,6 +11,7 @@
 #include <poll.h>
 #include <sdbus-c++/sdbus-c++.h>
 
+#include "Desktop/translation.h"
 #include "Tonelake/foundation/text.h"
 
 namespace desktop {
@@ -41,14 +42,14 @@ Connection connect() {
   std::future<Connection> connection = task.get_future();
   std::thread(std::move(task)).detach();
   if (connection.wait_for(timeOut) != std::future_status::ready) {
-    throw sdbus::Error("org.freedesktop.DBus.Error.Timeout", "the bus does not answer");
+    throw sdbus::Error("org.freedesktop.DBus.Error.Timeout", translated("the bus does not answer"));
   }
   return connection.get();
 }
 
 std::string describe(const sdbus::Error& error) {
-  return "no notification service takes the reminder: " +
-         (error.getMessage().empty() ? error.getName() : error.getMessage());
+  return translated("no notification service takes the reminder: {}",
+                    error.getMessage().empty() ? error.getName() : error.getMessage());
 }
 
 }  // namespace
@@ -105,7 +106,7 @@ void DbusNotificationPoster::Session::post(const StoredNotification& notificatio
       .storeResultsTo(capabilities_);
   const bool isClickable = openLink_ && !notification.link.empty() && serverCan("actions");
   std::vector<std::string> actions;
-  if (isClickable) actions = {defaultAction, "Show chord"};
+  if (isClickable) actions = {defaultAction, translated("Show chord")};
   Hints hints;
   if (serverCan("sound")) {
     hints["sound-name"] = sdbus::Variant(std::string("message-new-instant"));

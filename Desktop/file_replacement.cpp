@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include "Desktop/files.h"
+#include "Desktop/translation.h"
 
 namespace desktop {
 namespace {
@@ -52,7 +53,7 @@ std::optional<std::string> makeFolder(const std::string& folder) {
     error = std::make_error_code(std::errc::not_a_directory);
   }
   if (!error) return std::nullopt;
-  return "cannot make the folder \"" + folder + "\": " + error.message();
+  return translated("cannot make the folder {0}: {1}", '"' + folder + '"', error.message());
 }
 
 }  // namespace desktop

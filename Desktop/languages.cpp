@@ -7,6 +7,7 @@
 
 #include <libintl.h>
 
+#include "Desktop/environment.h"
 #include "Tonelake/foundation/text.h"
 
 namespace desktop {
@@ -14,12 +15,6 @@ namespace {
 
 constexpr const char* english = "en";
 constexpr const char* domain = "tonelake";
-
-// "" when it is not set.
-std::string environment(const char* name) {
-  const char* value = std::getenv(name);
-  return value == nullptr ? "" : value;
-}
 
 // bin/zyndle has its catalogues in share/locale, in an installed tree as in a build folder, and so
 // has a program in libexec/zyndle.
@@ -77,12 +72,12 @@ std::optional<std::string> languageOfLocale(std::string_view locale) {
 }
 
 std::string languageOfEnvironment() {
-  const std::string wantedLanguages = environment("LANGUAGE");
+  const std::string wantedLanguages = environmentVariable("LANGUAGE").value_or("");
   for (const std::string_view wanted : tonelake::split(wantedLanguages, ':')) {
     if (const auto language = languageOfLocale(wanted)) return *language;
   }
   for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-    const std::string locale = environment(name);
+    const std::string locale = environmentVariable(name).value_or("");
     if (!locale.empty()) return languageOfLocale(locale).value_or(english);
   }
   return english;

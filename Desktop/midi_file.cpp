@@ -14,6 +14,7 @@
 #include "Desktop/files.h"
 #include "Desktop/general_midi.h"
 #include "Desktop/memory_file.h"
+#include "Desktop/translation.h"
 
 namespace desktop {
 namespace {
@@ -63,7 +64,7 @@ struct Key {
 };
 
 [[noreturn]] void failToWrite() {
-  throw std::runtime_error("there is no room for a MIDI file");
+  throw std::runtime_error(translated("there is no room for a MIDI file"));
 }
 
 void add(smf_track_t* track, WholeNumber tick, std::initializer_list<int> bytes) {

@@ -2,7 +2,6 @@
 
 #include "Desktop/embedded_scripts.h"
 #include "Desktop/number_text.h"
-#include "Desktop/svg_text.h"
 #include "TodayChordExtension/diagram/chord_view.h"
 #include "TodayChordExtension/diagram/diagram_metrics.h"
 #include "TodayChordExtension/diagram/pluck_spring.h"

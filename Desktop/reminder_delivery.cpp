@@ -1,7 +1,8 @@
 #include "Desktop/reminder_delivery.h"
 
-#include <algorithm>
 #include <chrono>
+
+#include "Desktop/translation.h"
 
 namespace desktop {
 namespace {
@@ -17,7 +18,7 @@ class DeliveryRun {
       : store_(store), poster_(poster), diagnostics_(diagnostics), now_(now) {}
 
   void deliver(StoredNotification notification);
-  void drop(const StoredNotification& notification, const std::string& why);
+  void drop(const StoredNotification& notification, const std::string& line);
   void note(const std::optional<std::string>& problem) {
     if (!delivery_.problem) delivery_.problem = problem;
   }
@@ -47,11 +48,11 @@ void DeliveryRun::deliver(StoredNotification notification) {
   note(store_.markDelivered(notification).problem);
 }
 
-void DeliveryRun::drop(const StoredNotification& notification, const std::string& why) {
+void DeliveryRun::drop(const StoredNotification& notification, const std::string& line) {
   const SqliteNotificationStore::Change removal = store_.remove(notification);
   note(removal.problem);
   if (!removal.isDone) return;  // somebody else has dropped it, or it was scheduled again
-  diagnostics_.write("Reminder " + notification.request.identifier + " dropped: " + why);
+  diagnostics_.write(line);
 }
 
 }  // namespace
@@ -64,11 +65,15 @@ Delivery deliverDueReminders(SqliteNotificationStore& store, NotificationPoster&
   const SqliteNotificationStore::Pending pending = store.pending();
   run.note(pending.problem);
   for (const StoredNotification& notification : pending.notifications) {
+    const std::string& name = notification.request.identifier;
     const std::optional<Instant> due = calendar.instant(notification.request.time);
     if (!due) {
-      run.drop(notification, "its day does not exist in the time zone " + calendar.timeZone());
+      run.drop(notification,
+               translated("Reminder {0} dropped: its day does not exist in the time zone {1}", name,
+                          calendar.timeZone()));
     } else if (now - *due > longestDelay) {
-      run.drop(notification, "it was missed by more than a day");
+      run.drop(notification,
+               translated("Reminder {} dropped: it was missed by more than a day", name));
     } else if (*due <= now) {
       run.deliver(notification);
     }

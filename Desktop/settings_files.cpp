@@ -1,13 +1,14 @@
 #include "Desktop/settings_files.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <system_error>
 #include <utility>
 
 #include <sys/stat.h>
 
+#include "Desktop/environment.h"
 #include "Desktop/lazy_settings_store.h"
+#include "Desktop/translation.h"
 #include "Desktop/write_behind_store.h"
 
 namespace desktop {
@@ -15,11 +16,6 @@ namespace {
 
 bool isAbsolute(const std::optional<std::string>& path) {
   return path && path->starts_with('/');
-}
-
-std::optional<std::string> environmentVariable(const char* name) {
-  const char* value = std::getenv(name);
-  return value != nullptr ? std::optional<std::string>(value) : std::nullopt;
 }
 
 // Makes every folder on the way to `file` that is missing; false when one cannot be made. What
@@ -52,10 +48,12 @@ SettingsFiles settingsFiles(const DataHome& home) {
 SqliteSettingsStore::Opening openSettingsFile(const std::string& file,
                                               std::shared_ptr<tonelake::Diagnostics> diagnostics) {
   if (!isAbsolute(file)) {
-    return {nullptr, file + ": neither XDG_DATA_HOME nor HOME says which folder it belongs to"};
+    return {nullptr,
+            translated("{}: neither XDG_DATA_HOME nor HOME says which folder it belongs to", file)};
   }
   if (!makeFoldersFor(file)) {
-    return {nullptr, file + ": cannot make its folder: " + std::generic_category().message(errno)};
+    return {nullptr, translated("{0}: cannot make its folder: {1}", file,
+                                std::generic_category().message(errno))};
   }
   return SqliteSettingsStore::open(file, std::move(diagnostics));
 }
@@ -65,7 +63,7 @@ std::shared_ptr<tonelake::SettingsStore> makeStandardSettings(
   return makeLazySettingsStore([file, diagnostics]() -> std::shared_ptr<tonelake::SettingsStore> {
     auto [store, problem] = openSettingsFile(file, diagnostics);
     if (store != nullptr) return makeWriteBehindStore(std::move(store));
-    diagnostics->write(problem + "; generated positions are not kept");
+    diagnostics->write(translated("{}; generated positions are not kept", problem));
     return tonelake::makeMemorySettingsStore();
   });
 }

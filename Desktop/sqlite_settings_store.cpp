@@ -5,6 +5,8 @@
 #include <thread>
 #include <utility>
 
+#include "Desktop/translation.h"
+
 namespace desktop {
 namespace {
 
@@ -63,11 +65,12 @@ std::optional<std::string> prepareFile(SqliteDatabase& database) {
   const auto format = tables ? database.number("PRAGMA user_version") : std::nullopt;
   if (!format) return database.problem();
   if (*format > formatNumber) {
-    return "written by a newer version of this program (format " + std::to_string(*format) +
-           ", this version knows " + std::to_string(formatNumber) + ")";
+    return translated(
+        "written by a newer version of this program (format {0}, this version knows {1})", *format,
+        formatNumber);
   }
   if (*format == formatNumber) return std::nullopt;
-  if (*format < 0 || *tables > 0) return "a database, but not one of settings";
+  if (*format < 0 || *tables > 0) return translated("a database, but not one of settings");
   return createTable(database) ? std::nullopt : std::optional(database.problem());
 }
 
@@ -134,8 +137,8 @@ std::optional<std::string> SqliteSettingsStore::inTransaction(const std::functio
 std::optional<std::string> SqliteSettingsStore::lengthProblem(std::string_view key,
                                                               std::string_view value) const {
   if (key.size() + value.size() <= longestSetting) return std::nullopt;
-  return file_ + ": the setting \"" + std::string(key.substr(0, 64)) + "\" is longer than " +
-         std::to_string(longestSetting) + " bytes";
+  return translated("{0}: the setting {1} is longer than {2} bytes", file_,
+                    '"' + std::string(key.substr(0, 64)) + '"', longestSetting);
 }
 
 std::optional<std::string> SqliteSettingsStore::store(std::string_view key, SettingType type,

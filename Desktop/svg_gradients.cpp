@@ -4,6 +4,7 @@
 #include <utility>
 #include <variant>
 
+#include "Desktop/number_text.h"
 #include "Desktop/svg_text.h"
 
 namespace desktop {

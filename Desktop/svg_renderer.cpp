@@ -7,6 +7,7 @@
 
 #include <pugixml.hpp>
 
+#include "Desktop/number_text.h"
 #include "Desktop/pluck_script.h"
 #include "Desktop/svg_gradients.h"
 #include "Desktop/svg_text.h"

@@ -1,5 +1,6 @@
 #include "Desktop/svg_text.h"
 
+#include "Desktop/number_text.h"
 #include "Desktop/typefaces.h"
 #include "Tonelake/foundation/text.h"
 

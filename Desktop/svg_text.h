@@ -4,7 +4,6 @@
 #include <string_view>
 #include <vector>
 
-#include "Desktop/number_text.h"
 #include "TodayChordExtension/diagram/color.h"
 #include "TodayChordExtension/diagram/scene.h"
 

@@ -4,7 +4,6 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <vector>
@@ -14,16 +13,18 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "Desktop/environment.h"
 #include "Desktop/files.h"
 #include "Desktop/memory_file.h"
+#include "Desktop/translation.h"
 #include "Tonelake/foundation/text.h"
 
 namespace desktop {
 namespace {
 
 constexpr const char* programName = "fluidsynth";
-constexpr const char* advice = "; to install: apt-get install fluidsynth fluid-soundfont-gm";
-constexpr const char* noMemory = "there is no memory left";
+constexpr const char* advice = "apt-get install fluidsynth fluid-soundfont-gm";
+constexpr const char* noMemory = tonelake::message("there is no memory left");
 
 // Where Debian and others keep soundfonts with all instruments, in order of preference.
 constexpr std::array soundfonts{
@@ -43,15 +44,6 @@ constexpr std::size_t largestWav = std::size_t{1} << 31U;  // more than three ho
 constexpr std::size_t placeOfRiffLength = 4;
 constexpr std::size_t placeOfDataLength = 40;
 constexpr std::size_t placeOfSamples = 44;
-
-std::string findProgram() {
-  const char* path = std::getenv("PATH");
-  for (const std::string_view folder : tonelake::split(path == nullptr ? "" : path, ':')) {
-    std::string candidate = std::string(folder) + "/" + programName;
-    if (!folder.empty() && ::access(candidate.c_str(), X_OK) == 0) return candidate;
-  }
-  return "";
-}
 
 bool isReadable(const std::string& path) {
   return std::filesystem::is_regular_file(path) && ::access(path.c_str(), R_OK) == 0;
@@ -80,7 +72,7 @@ std::string run(const Synthesizer& synthesizer, std::vector<std::string> argumen
                 const std::string& midi) {
   const MemoryFile song("zyndle.mid");
   const MemoryFile log("zyndle.log");
-  if (!song.isOpen() || !log.isOpen() || !song.write(midi)) return noMemory;
+  if (!song.isOpen() || !log.isOpen() || !song.write(midi)) return translated(noMemory);
   arguments.insert(arguments.begin(), synthesizer.program);
   arguments.push_back(synthesizer.soundfont);
   arguments.push_back(song.path());
@@ -97,14 +89,16 @@ std::string run(const Synthesizer& synthesizer, std::vector<std::string> argumen
   pid_t child = 0;
   const int error = ::posix_spawn(&child, list.front(), &actions, nullptr, list.data(), environ);
   posix_spawn_file_actions_destroy(&actions);
-  if (error != 0) return synthesizer.program + " cannot be started: " + std::strerror(error);
+  if (error != 0) {
+    return translated("{0} cannot be started: {1}", synthesizer.program, std::strerror(error));
+  }
   int status = 0;
   while (::waitpid(child, &status, 0) < 0 && errno == EINTR) continue;
   const std::string said = readFile(log.path(), SIZE_MAX).value_or("");
   // It may end well after it has failed to open the loudspeakers or the soundfont.
   const bool hasFailed = said.find("error:") != std::string::npos;
   if (WIFEXITED(status) && WEXITSTATUS(status) == 0 && !hasFailed) return "";
-  return synthesizer.program + " failed: " + lastLine(said);
+  return translated("{0} failed: {1}", synthesizer.program, lastLine(said));
 }
 
 // Four bytes at a place in a file, the lowest first.
@@ -136,15 +130,16 @@ void cutWav(std::string& file, std::size_t seconds) {
 
 std::optional<Synthesizer> findSynthesizer(const std::optional<std::string>& soundfont,
                                            std::string& problem) {
-  Synthesizer found{findProgram(), soundfont.value_or(findSoundfont())};
+  Synthesizer found{findProgram(programName).value_or(""), soundfont.value_or(findSoundfont())};
   if (found.program.empty() && found.soundfont.empty()) {
-    problem = std::string("sound needs the program fluidsynth and a soundfont") + advice;
+    problem =
+        translated("sound needs the program fluidsynth and a soundfont; to install: {}", advice);
   } else if (found.program.empty()) {
-    problem = std::string("sound needs the program fluidsynth") + advice;
+    problem = translated("sound needs the program fluidsynth; to install: {}", advice);
   } else if (found.soundfont.empty()) {
-    problem = std::string("sound needs a soundfont") + advice;
+    problem = translated("sound needs a soundfont; to install: {}", advice);
   } else if (!isReadable(found.soundfont)) {
-    problem = "there is no soundfont " + tonelake::quoted(found.soundfont);
+    problem = translated("there is no soundfont {}", tonelake::quoted(found.soundfont));
   } else {
     return found;
   }
@@ -158,14 +153,14 @@ std::string playMidi(const Synthesizer& synthesizer, const std::string& midi) {
 std::string renderMidi(const Synthesizer& synthesizer, const std::string& midi, int seconds,
                        std::string& wav) {
   const MemoryFile sound("zyndle.wav");
-  if (!sound.isOpen()) return noMemory;
+  if (!sound.isOpen()) return translated(noMemory);
   std::string problem = run(
       synthesizer,
       {"-n", "-i", "-q", "-g", gain, "-r", "44100", "-T", "wav", "-O", "s16", "-F", sound.path()},
       midi);
   if (!problem.empty()) return problem;
   wav = readFile(sound.path(), largestWav).value_or("");
-  if (wav.size() <= placeOfSamples) return synthesizer.program + " made no sound";
+  if (wav.size() <= placeOfSamples) return translated("{} made no sound", synthesizer.program);
   cutWav(wav, static_cast<std::size_t>(seconds));
   return "";
 }

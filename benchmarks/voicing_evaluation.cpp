@@ -28,6 +28,7 @@
 #include "Tonelake/chords/chord_dictionary.h"
 #include "Tonelake/fingering/voicing_query.h"
 #include "Tonelake/fingering/voicings.h"
+#include "Tonelake/theory/octave.h"
 #include "benchmarks/published_shapes.h"
 
 namespace tonelake {
@@ -37,7 +38,6 @@ using benchmarks::PublishedShape;
 using Voicings::Voicing;
 using Voicings::VoicingOptions;
 
-constexpr int octave = 12;
 constexpr int highestFret = 24;
 constexpr std::array<int, Tuning::stringCount> standardPitches{4, 9, 2, 7, 11, 4};
 
@@ -65,7 +65,7 @@ bool hasTheRightTones(const PublishedShape& shape, const Chord& chord) {
   const auto query = Voicings::makeVoicingQuery(chord, Tuning::standard, 0);
   PitchClassSet notes = 0;
   for (std::size_t string = 0; string < shape.frets.size(); ++string) {
-    if (shape.frets[string] != mutedString) notes |= Voicings::noteAt(pitchOf(shape.frets, string));
+    if (shape.frets[string] != mutedString) notes |= onlyPitchClass(pitchOf(shape.frets, string));
   }
   return (notes & ~query->chordNotes) == 0 && (query->requiredNotes & ~notes) == 0;
 }

@@ -15,7 +15,7 @@ print_template() {
   local scratch
   scratch=$(mktemp -d)
   "$1" >"$scratch/library.pot"
-  find TodayChordExtension zyndle -name '*.h' -o -name '*.cpp' | LC_ALL=C sort |
+  find Desktop TodayChordExtension zyndle -name '*.h' -o -name '*.cpp' | LC_ALL=C sort |
     xgettext --language=C++ --from-code=UTF-8 --files-from=- --output="$scratch/sources.pot" \
       --keyword --keyword=message --keyword=translated --keyword=localized \
       --add-comments=TRANSLATORS: --add-location=file --package-name=tonelake

@@ -8,8 +8,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "Tonelake/foundation/text.h"
-
 namespace zyndle {
 namespace {
 
@@ -43,15 +41,6 @@ bool startQuietly(const std::vector<std::string>& arguments) {
   while (::waitpid(-1, nullptr, WNOHANG) > 0) {
   }
   return start(arguments).has_value();
-}
-
-bool isInstalled(const std::string& program) {
-  const char* const path = std::getenv("PATH");
-  if (path == nullptr) return false;
-  for (const std::string_view folder : tonelake::split(path, ':')) {
-    if (::access((std::string(folder) + '/' + program).c_str(), X_OK) == 0) return true;
-  }
-  return false;
 }
 
 }  // namespace zyndle

@@ -12,7 +12,4 @@ bool runQuietly(const std::vector<std::string>& arguments);
 /// Starts such a program and does not wait for it. Whether it was there.
 bool startQuietly(const std::vector<std::string>& arguments);
 
-/// Whether a program of this name can be run.
-bool isInstalled(const std::string& program);
-
 }  // namespace zyndle

@@ -14,6 +14,7 @@
 #include "Tonelake/fingering/voicings.h"
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/theory/note.h"
+#include "Tonelake/theory/octave.h"
 #include "Tonelake/theory/spelling_tables.h"
 #include "zyndle/chord_name.h"
 #include "zyndle/chord_sheet.h"
@@ -70,7 +71,7 @@ struct ShownChord {
 // The chord whose shapes, counted from the capo, sound `chord`: A major for C major with the capo
 // on fret 3.
 Chord playedChord(Chord chord, int capo) {
-  constexpr int octave = 12;
+  using tonelake::octave;
   if (capo % octave == 0) return chord;
   const auto pitch =
       static_cast<std::size_t>((chord.rootNote.pitchClass() + octave - capo) % octave);

@@ -1,7 +1,6 @@
 #include "zyndle/companion.h"
 
 #include <filesystem>
-#include <string>
 #include <vector>
 
 #include <CLI/CLI.hpp>

@@ -7,6 +7,7 @@
 #include "Tonelake/chords/chord_data_manager.h"
 #include "Tonelake/chords/chord_spelling.h"
 #include "Tonelake/foundation/text.h"
+#include "Tonelake/theory/octave.h"
 
 namespace zyndle {
 namespace {
@@ -27,7 +28,7 @@ bool anyHasSign(const SoughtNotes& sought, std::string_view sign) {
 std::vector<int> pitchesOf(const Chord& chord) {
   std::vector<int> pitches;
   for (const tonelake::WholeNumber note : tonelake::Chords::getChordData(chord.chordType)->notes) {
-    pitches.push_back((chord.rootNote.pitchClass() + static_cast<int>(note)) % 12);
+    pitches.push_back((chord.rootNote.pitchClass() + static_cast<int>(note)) % tonelake::octave);
   }
   return pitches;
 }

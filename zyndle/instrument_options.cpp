@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "Tonelake/fingering/voicing.h"
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/theory/spelling_tables.h"
 #include "Tonelake/theory/tuning_parsing.h"
@@ -45,14 +46,14 @@ void addInstrumentOptions(CLI::App& command, InstrumentOptions& options) {
 }
 
 Instrument readInstrument(const InstrumentOptions& options) {
-  constexpr int highestCapo = 12;
   Instrument instrument;
   if (options.tuning) {
     tonelake::ParsedTuning parsed = tonelake::Tuning::parseTuning(*options.tuning);
     if (parsed.names.empty()) refuse("--tuning: " + parsed.problem);
     instrument.tuning = std::move(parsed.names);
   }
-  instrument.capo = static_cast<int>(readNumber("--capo", options.capo, 0, 0, highestCapo));
+  instrument.capo =
+      static_cast<int>(readNumber("--capo", options.capo, 0, 0, tonelake::Voicings::highestCapo));
   return instrument;
 }
 

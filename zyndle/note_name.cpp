@@ -1,7 +1,5 @@
 #include "zyndle/note_name.h"
 
-#include <algorithm>
-
 #include "Tonelake/foundation/text.h"
 #include "zyndle/command_error.h"
 #include "zyndle/translation.h"

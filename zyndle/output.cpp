@@ -2,13 +2,13 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "Desktop/environment.h"
 #include "Desktop/file_replacement.h"
 #include "Desktop/files.h"
 #include "Tonelake/foundation/text.h"
@@ -73,8 +73,8 @@ std::string printable(std::string_view text) {
 }
 
 bool mayColour() {
-  const char* noColor = std::getenv("NO_COLOR");
-  return isatty(STDOUT_FILENO) == 1 && (noColor == nullptr || *noColor == '\0');
+  return isatty(STDOUT_FILENO) == 1 &&
+         desktop::environmentVariable("NO_COLOR").value_or("").empty();
 }
 
 }  // namespace zyndle

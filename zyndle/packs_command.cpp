@@ -50,7 +50,7 @@ struct PackOptions {
   OutputOptions output;
 };
 
-ChordListCategory readCategory(const std::string& name) {
+ChordListCategory readPack(const std::string& name) {
   const auto category = ChordListCategory::fromRawValue(name);
   if (category && curatedChordLists().contains(*category)) return *category;
   std::vector<std::string> names;
@@ -117,7 +117,7 @@ std::string textOf(const ChordList& list, const DrawingStyle& style) {
 void showPack(const PackOptions& options) {
   checkOutputOptions(options.output);
   installHost(options.output.isForPrograms());
-  const ChordListCategory category = readCategory(options.name);
+  const ChordListCategory category = readPack(options.name);
   const ChordList& list = curatedChordLists().at(category);
   writeText(options.output, options.output.json ? jsonOf(category, list)
                                                 : textOf(list, drawingStyle(options.output)));

@@ -1,6 +1,5 @@
 #include "zyndle/patterns_command.h"
 
-#include <algorithm>
 #include <memory>
 #include <optional>
 #include <string>

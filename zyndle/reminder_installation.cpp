@@ -1,12 +1,12 @@
 #include "zyndle/reminder_installation.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <optional>
 #include <string>
 
 #include <unistd.h>
 
+#include "Desktop/environment.h"
 #include "Desktop/settings_files.h"
 #include "zyndle/child_process.h"
 #include "zyndle/command_error.h"
@@ -20,8 +20,9 @@ namespace {
 namespace filesystem = std::filesystem;
 
 std::optional<std::string> absoluteVariable(const char* name) {
-  const char* const value = std::getenv(name);
-  return value != nullptr && *value == '/' ? std::optional<std::string>(value) : std::nullopt;
+  auto value = desktop::environmentVariable(name);
+  if (value && !value->starts_with('/')) value.reset();
+  return value;
 }
 
 filesystem::path unitFolder() {
@@ -38,8 +39,8 @@ DeliveryCommand deliveryCommand() {
 }
 
 std::string busAddress() {
-  const char* const address = std::getenv("DBUS_SESSION_BUS_ADDRESS");
-  if (address != nullptr && *address != '\0') return address;
+  const auto address = desktop::environmentVariable("DBUS_SESSION_BUS_ADDRESS");
+  if (address && !address->empty()) return *address;
   return "unix:path=/run/user/" + std::to_string(::getuid()) + "/bus";
 }
 
@@ -59,7 +60,7 @@ bool removeUnit(const filesystem::path& file) {
 // A unit that systemd does not understand would be passed over without a word. Its check needs the
 // folder of a session, without which there is no timer to start either.
 void checkUnits(const filesystem::path& service, const filesystem::path& timer) {
-  if (!isInstalled("systemd-analyze") || !absoluteVariable("XDG_RUNTIME_DIR")) return;
+  if (!desktop::findProgram("systemd-analyze") || !absoluteVariable("XDG_RUNTIME_DIR")) return;
   if (runQuietly({"systemd-analyze", "--user", "verify", service.string(), timer.string()})) return;
   fail(translated("systemd does not take the timer; {} says why",
                   "systemd-analyze --user verify " + timer.string()));

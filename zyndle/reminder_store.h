@@ -5,7 +5,6 @@
 
 #include "Desktop/sqlite_notification_store.h"
 #include "Tonelake/platform/notification_center.h"
-#include "Tonelake/today/chord_category.h"
 #include "Tonelake/today/today_chord_library.h"
 
 namespace zyndle {

@@ -18,7 +18,6 @@
 #include "zyndle/command_error.h"
 #include "zyndle/drawing.h"
 #include "zyndle/host.h"
-#include "zyndle/output.h"
 #include "zyndle/output_options.h"
 #include "zyndle/text_layout.h"
 #include "zyndle/translation.h"

@@ -1,28 +1,12 @@
 #pragma once
 
-#include <memory>
-#include <string>
-
-#include <fmt/format.h>
-
-#include "Tonelake/platform/string_table.h"
+#include "Desktop/translation.h"
 
 namespace zyndle {
 
+using desktop::chooseStrings;
+using desktop::strings;
+using desktop::translated;
 using tonelake::message;
-
-/// The texts of this run. English until they are chosen, once, before anything else is said.
-std::shared_ptr<const tonelake::StringTable> strings();
-void chooseStrings(std::shared_ptr<const tonelake::StringTable> strings);
-
-/// A text of the command in the language of this run.
-std::string translated(const char* english);
-
-/// The same with the values put in its places, which are written {}, or {0} and {1} where there are
-/// several, since another language may need them in another order.
-template <typename... Values>
-std::string translated(const char* english, const Values&... values) {
-  return fmt::vformat(translated(english), fmt::make_format_args(values...));
-}
 
 }  // namespace zyndle

@@ -94,7 +94,7 @@ const WidgetDescription& readWidget(const std::string& name) {
 }
 
 // The chord of the day is drawn in every family, also in those that it does not offer to hosts.
-std::vector<WidgetFamily> familiesOf(const WidgetDescription& widget) {
+std::vector<WidgetFamily> drawableFamilies(const WidgetDescription& widget) {
   const bool isChord = widget.kind == todaychord::chordWidgetKind;
   const auto families = isChord ? WidgetFamily::allCases() : widget.families;
   return {families.begin(), families.end()};
@@ -103,7 +103,7 @@ std::vector<WidgetFamily> familiesOf(const WidgetDescription& widget) {
 WidgetFamily readFamily(const WidgetOptions& options, const WidgetDescription& widget) {
   if (!options.family) return widget.families.front();
   const std::optional<WidgetFamily> family = WidgetFamily::fromRawValue(*options.family);
-  const std::vector<WidgetFamily> families = familiesOf(widget);
+  const std::vector<WidgetFamily> families = drawableFamilies(widget);
   if (family && std::find(families.begin(), families.end(), *family) != families.end()) {
     return *family;
   }

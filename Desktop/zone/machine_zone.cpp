@@ -1,14 +1,14 @@
 #include "Desktop/zone/machine_zone.h"
 
 #include <array>
-#include <cstdlib>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 #include <unistd.h>
 
+#include "Desktop/environment.h"
 #include "Desktop/files.h"
+#include "Desktop/translation.h"
 #include "Desktop/zone/zone_file.h"
 
 namespace desktop {
@@ -81,8 +81,8 @@ std::optional<NamedZone> zoneOfVariable(const ZoneSources& sources) {
 
 ZoneSources zoneSourcesOfThisMachine() {
   ZoneSources sources;
-  if (const char* variable = std::getenv("TZ")) sources.variable = variable;
-  if (const char* folder = std::getenv("TZDIR")) sources.zoneFolder = folder;
+  sources.variable = environmentVariable("TZ");
+  if (auto folder = environmentVariable("TZDIR")) sources.zoneFolder = *std::move(folder);
   return sources;
 }
 
@@ -94,12 +94,12 @@ std::optional<NamedZone> findZone(const std::string& zoneFolder, const std::stri
 MachineZone findMachineZone(const ZoneSources& sources) {
   if (sources.variable) {
     if (auto zone = zoneOfVariable(sources)) return {std::move(*zone), ""};
-    return {universalTime(),
-            "TZ is \"" + *sources.variable + "\", which names no known time zone: using UTC"};
+    return {universalTime(), translated("TZ is {}, which names no known time zone: using UTC",
+                                        '"' + *sources.variable + '"')};
   }
   if (auto zone = zoneOfSettings(sources)) return {std::move(*zone), ""};
-  return {universalTime(), "this machine's time zone is unknown (" + sources.localTimeFile + ", " +
-                               sources.zoneNameFile + "): using UTC"};
+  return {universalTime(), translated("this machine's time zone is unknown ({0}, {1}): using UTC",
+                                      sources.localTimeFile, sources.zoneNameFile)};
 }
 
 }  // namespace desktop

@@ -46,10 +46,10 @@ struct ChordView {
   Gradient stringHighlightGradientPlain{{0, {0xFFFFFF}}, {1, {0xE0A8E8}}};
   /// Of every other string.
   Gradient stringColorGradient{{0, {0xDEDEDE}}, {0.5, {0xF4EFF8}}, {1, {0xDEDEDE}}};
-  Font font{"Space Grotesk Medium", metrics::noteLabelFontSize};  ///< of note labels
-  Font topFont{"Space Grotesk Medium", metrics::topFontSize};     ///< of the base fret
-  double displacementValue = 0;                       ///< for hosts; the scene takes displacement
-  double dotDiameter = metrics::standardDotDiameter;  ///< design units
+  Font font{regularFont, metrics::noteLabelFontSize};  ///< of note labels
+  Font topFont{regularFont, metrics::topFontSize};     ///< of the base fret
+  double displacementValue = 0;                        ///< for hosts; the scene takes displacement
+  double dotDiameter = metrics::standardDotDiameter;   ///< design units
 };
 
 }  // namespace todaychord

@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "Tonelake/chords/chord_spelling.h"
+#include "Tonelake/fingering/finger_rules.h"
 #include "Tonelake/theory/note.h"
+#include "Tonelake/theory/octave.h"
 #include "Tonelake/theory/spelling_tables.h"
 
 namespace todaychord {
@@ -12,7 +14,6 @@ namespace {
 using tonelake::Note;
 
 constexpr WholeNumber muted = -1;
-constexpr WholeNumber littleFinger = 4;
 
 double at(double first, double pitch, WholeNumber index) {
   return first + pitch * static_cast<double>(index);
@@ -55,7 +56,7 @@ std::vector<FingerDot> placeDots(const WholeNumbers& frets, const WholeNumbers& 
 // the two gives the row.
 std::vector<BarreSegment> placeBarres(const WholeNumbers& frets, const WholeNumbers& fingers) {
   std::vector<BarreSegment> barres;
-  for (WholeNumber finger = 1; finger <= littleFinger; ++finger) {
+  for (WholeNumber finger = 1; finger <= tonelake::littleFinger; ++finger) {
     int previous = -1;
     for (std::size_t i = 0; i < std::min(frets.size(), fingers.size()); ++i) {
       if (fingers[i] != finger) continue;
@@ -87,17 +88,18 @@ std::string spellInChord(std::size_t pitchClass, const std::vector<std::string>&
 }
 
 std::vector<NoteLabel> placeNoteLabels(const ChordView& view) {
-  constexpr WholeNumber octave = 12;
   const std::vector<std::string> tones = tonelake::Chords::getNotesOfChord(view.chord);
   std::vector<NoteLabel> labels;
   constexpr std::size_t strings = metrics::stringCount;
   for (std::size_t i = 0; i < std::min({strings, view.position.size(), view.tuning.size()}); ++i) {
     const auto open = Note::fromRawValue(view.tuning[i]);
     if (view.position[i] == muted || !open) continue;
-    const WholeNumber pitch = open->pitchClass() + octave + view.position[i] % octave;
+    const WholeNumber pitch =
+        open->pitchClass() + tonelake::octave + view.position[i] % tonelake::octave;
     const int string =
         (view.isLeftHanded ? metrics::stringCount - 1 - static_cast<int>(i) : static_cast<int>(i));
-    labels.push_back({string, spellInChord(static_cast<std::size_t>(pitch % octave), tones),
+    labels.push_back({string,
+                      spellInChord(static_cast<std::size_t>(pitch % tonelake::octave), tones),
                       at(metrics::noteLabelX, metrics::stringPitch, string), metrics::noteLabelY});
   }
   std::sort(labels.begin(), labels.end(),

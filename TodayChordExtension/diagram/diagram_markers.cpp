@@ -9,13 +9,10 @@
 #include "TodayChordExtension/diagram/diagram_palette.h"
 #include "TodayChordExtension/diagram/diagram_places.h"
 #include "TodayChordExtension/diagram/scene_shapes.h"
+#include "Tonelake/fingering/finger_rules.h"
 
 namespace todaychord {
 namespace {
-
-constexpr const char* numberFont = "SpaceGrotesk-SemiBold";
-constexpr WholeNumber indexFinger = 1;
-constexpr WholeNumber littleFinger = 4;
 
 std::vector<FingerDot> dotsOnBoard(const DiagramLayout& layout) {
   std::vector<FingerDot> dots;
@@ -60,7 +57,7 @@ SceneItems drawSurface(const Path& shape, double y, const ChordView& view) {
 
 TextItem drawFingerNumber(WholeNumber finger, Point centre, const ChordView& view) {
   return {std::to_string(finger),
-          {numberFont, metrics::fingerFontSize},
+          {boldFont, metrics::fingerFontSize},
           TextAnchor::middle,
           {centre.x, baselineAround(centre.y, metrics::fingerFontSize)},
           isGlass(view) ? palette::glassNumber : palette::dotNumber};
@@ -70,7 +67,8 @@ SceneItem drawDot(const FingerDot& dot, const ChordView& view) {
   const Point centre = centreOf(dot);
   SceneItems items =
       drawSurface(circle(centre, view.dotDiameter / 2 - metrics::dotRim), centre.y, view);
-  if (view.displayFingering && dot.finger >= indexFinger && dot.finger <= littleFinger) {
+  if (view.displayFingering && dot.finger >= tonelake::indexFinger &&
+      dot.finger <= tonelake::littleFinger) {
     items.push_back({drawFingerNumber(dot.finger, centre, view)});
   }
   return {

@@ -4,10 +4,12 @@
 
 namespace todaychord {
 
+inline constexpr const char* regularFont = "Space Grotesk Medium";  ///< stands in for the unknown
+inline constexpr const char* boldFont = "SpaceGrotesk-SemiBold";    ///< of numbers and labels
+
 /// A typeface of the program and its size, in the unit of what is drawn with it.
 struct Font {
-  std::string name;  ///< "Space Grotesk Medium", which stands in for the unknown, or
-                     ///< "SpaceGrotesk-SemiBold"
+  std::string name;  ///< regularFont or boldFont
   double size = 0;   ///< the em
 
   friend bool operator==(const Font&, const Font&) = default;

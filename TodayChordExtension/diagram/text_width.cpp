@@ -1,7 +1,5 @@
 #include "TodayChordExtension/diagram/text_width.h"
 
-#include <algorithm>
-
 #include "Tonelake/foundation/text.h"
 
 namespace todaychord {

@@ -15,8 +15,6 @@ namespace {
 
 namespace layout = widgetMetrics::accessory;
 
-constexpr WholeNumber titleLength = 12;
-
 Point middleOf(const Rectangle& frame) {
   return {frame.x + frame.width / 2, frame.y + frame.height / 2};
 }
@@ -29,7 +27,7 @@ struct TitleShape {
 };
 
 SceneItem drawTitle(const std::string& title, const Rectangle& frame, const TitleShape& shape) {
-  if (title.empty()) return {drawCentred(noChordIcon, frame, shape.icon, widgetPalette::title)};
+  if (title.empty()) return {drawCentred(stackIcon, frame, shape.icon, widgetPalette::title)};
   const TextStyle style{{shape.font, shape.fontSize}, widgetPalette::heading, TextAnchor::middle};
   TextItem line = fitLine(title, style, middleOf(frame), shape.width);
   line.baseline.y = middleBaseline(frame.y, frame.height, line.font.size);

@@ -12,7 +12,6 @@ namespace todaychord {
 namespace {
 
 constexpr WholeNumber smallTitleLength = 8;
-constexpr WholeNumber titleLength = 12;
 
 // Texts and pictures one above the other, all of one anchor and width.
 class Column {
@@ -47,7 +46,7 @@ SceneItem drawPicture(const DayChord& chord, double middleX, double top, double 
                       double iconSide) {
   if (chord.diagram) return drawDiagramAt(*chord.diagram, middleX, top, scale);
   const double height = widgetMetrics::diagramInk * scale;
-  return {drawCentred(noChordIcon, {middleX - height / 2, top, height, height}, iconSide,
+  return {drawCentred(stackIcon, {middleX - height / 2, top, height, height}, iconSide,
                       widgetPalette::quietIcon)};
 }
 
@@ -104,7 +103,7 @@ SceneItems drawSmallLayout(const DayChord& chord, const Rectangle& frame) {
                    {regularFont, widgetMetrics::footnote}, widgetPalette::subtitle,
                    layout::loneTextBaseline);
     column.items.push_back(
-        {drawCentred(noChordIcon, aboveText, layout::icon, widgetPalette::quietIcon)});
+        {drawCentred(stackIcon, aboveText, layout::icon, widgetPalette::quietIcon)});
     return column.items;
   }
   column.addText(title, {regularFont, layout::titleFont}, widgetPalette::title,

@@ -11,7 +11,6 @@
 #include "TodayChordExtension/widgets/widget_metrics.h"
 #include "TodayChordExtension/widgets/widget_palette.h"
 #include "TodayChordExtension/widgets/widget_parts.h"
-#include "Tonelake/foundation/text.h"
 
 namespace todaychord {
 namespace {

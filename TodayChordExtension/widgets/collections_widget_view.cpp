@@ -5,6 +5,7 @@
 
 #include "TodayChordExtension/diagram/icons.h"
 #include "TodayChordExtension/diagram/scene_shapes.h"
+#include "TodayChordExtension/widgets/today_chord_bundle.h"
 #include "TodayChordExtension/widgets/widget_links.h"
 #include "TodayChordExtension/widgets/widget_metrics.h"
 #include "TodayChordExtension/widgets/widget_palette.h"
@@ -19,7 +20,6 @@ namespace tall = widgetMetrics::tall;
 
 using tonelake::message;
 
-constexpr const char* stackIcon = "music.note.square.stack.fill";
 constexpr const char* allRowText = message("View All Collections");
 
 // An odd number takes one place more, since its first card takes two.
@@ -119,7 +119,9 @@ Scene drawCollectionsWidget(const CollectionsEntry& entry) {
   append(items,
          draw(CollectionGrid{entry.collections}, {tall::margin, top, tall::width, bottom - top}));
   append(items, drawAllRow());
-  return {size.width, size.height, "Chord Collections", "", std::move(items)};
+  return {size.width, size.height,
+          std::string(TodayChordBundle::findWidget(collectionsWidgetKind)->displayName), "",
+          std::move(items)};
 }
 
 }  // namespace todaychord

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "TodayChordExtension/widgets/launcher_tools.h"
+#include "TodayChordExtension/widgets/today_chord_bundle.h"
 #include "TodayChordExtension/widgets/widget_chord.h"
 #include "TodayChordExtension/widgets/widget_links.h"
 #include "TodayChordExtension/widgets/widget_metrics.h"
@@ -15,8 +16,6 @@ namespace {
 
 namespace layout = widgetMetrics::launcher;
 namespace tall = widgetMetrics::tall;
-
-constexpr WholeNumber titleLength = 12;
 
 std::optional<std::string> nameOrNothing(std::string_view name) {
   return name.empty() ? std::nullopt : std::optional(std::string(name));
@@ -87,7 +86,7 @@ SceneItems draw(const TodayChordLauncherCard& card, const Rectangle& frame,
   if (const auto diagram = widgetDiagram(card.chord, settings)) {
     items.push_back(drawDiagramAt(*diagram, middleX, top, layout::diagramScale));
   } else {
-    items.push_back({drawCentred(noChordIcon, {middleX - ink / 2, top, ink, ink}, layout::icon,
+    items.push_back({drawCentred(stackIcon, {middleX - ink / 2, top, ink, ink}, layout::icon,
                                  widgetPalette::quietIcon)});
   }
   items.push_back({LinkArea{frame, chordLink(card.chord), chordOfTheDayLabel(card.chord)}});
@@ -105,7 +104,9 @@ Scene drawLauncherWidget(const LauncherEntry& entry, const ViewSettings& setting
   const Rectangle card{tall::margin, y, tall::width, layout::chordCardHeight};
   append(items, draw(TodayChordLauncherCard{entry.chord, entry.category}, card, settings));
   append(items, drawTools(y + layout::chordCardHeight + layout::sectionGap));
-  return {size.width, size.height, "Zyndle Launcher", "", std::move(items)};
+  return {size.width, size.height,
+          std::string(TodayChordBundle::findWidget(launcherWidgetKind)->displayName), "",
+          std::move(items)};
 }
 
 }  // namespace todaychord

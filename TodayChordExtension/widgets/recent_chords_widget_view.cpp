@@ -17,7 +17,6 @@ namespace {
 namespace layout = widgetMetrics::recent;
 namespace tall = widgetMetrics::tall;
 
-constexpr WholeNumber titleLength = 12;
 constexpr const char* widgetTitleText = tonelake::message("Recently Viewed Chords");
 
 static_assert(RecentChordsEntry::capacity == std::size_t{layout::rows * tall::columns});
@@ -48,7 +47,7 @@ SceneItems draw(const WidgetSmallChordCell& cell, const Rectangle& frame,
     items.push_back(
         drawDiagramAt(*diagram, middle, frame.y + layout::diagramY, layout::diagramScale));
   } else {
-    items.push_back({drawCentred(noChordIcon, frame, layout::icon, widgetPalette::quietIcon)});
+    items.push_back({drawCentred(stackIcon, frame, layout::icon, widgetPalette::quietIcon)});
   }
   const std::string spoken = widgetTitle(cell.chord, spokenTitleLength);
   items.push_back(

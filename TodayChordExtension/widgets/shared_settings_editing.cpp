@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "TodayChordExtension/widgets/shared_data.h"
-#include "TodayChordExtension/widgets/shared_settings.h"
 #include "TodayChordExtension/widgets/widget_chord_collection_json.h"
 #include "Tonelake/chords/chord_json.h"
 

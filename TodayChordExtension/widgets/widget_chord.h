@@ -13,6 +13,8 @@ namespace todaychord {
 
 // What widgets show and say of a chord, which may be missing or of an unknown type.
 
+/// Longest type name that a line of a widget shows in full, in characters.
+inline constexpr tonelake::WholeNumber titleLength = 12;
 /// Longest type name that a screen reader is given in full, in characters.
 inline constexpr tonelake::WholeNumber spokenTitleLength = 18;
 

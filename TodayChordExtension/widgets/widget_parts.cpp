@@ -1,7 +1,6 @@
 #include "TodayChordExtension/widgets/widget_parts.h"
 
 #include <iterator>
-#include <utility>
 
 #include "TodayChordExtension/diagram/scene_shapes.h"
 #include "TodayChordExtension/widgets/widget_metrics.h"

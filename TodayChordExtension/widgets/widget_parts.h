@@ -45,7 +45,7 @@ ImageItem drawCentred(const std::string& icon, const Rectangle& frame, double si
 /// Where the cell of this index lies in a grid of `columns` within `frame`, row by row.
 Rectangle gridCell(const Rectangle& frame, int columns, int rows, double gap, int index);
 
-/// What stands where there is no chord to show.
-inline constexpr const char* noChordIcon = "music.note.square.stack.fill";
+/// A stack of chords, which stands for a collection and where there is no chord to show.
+inline constexpr const char* stackIcon = "music.note.square.stack.fill";
 
 }  // namespace todaychord

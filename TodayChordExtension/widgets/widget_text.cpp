@@ -1,7 +1,6 @@
 #include "TodayChordExtension/widgets/widget_text.h"
 
 #include <algorithm>
-#include <vector>
 
 #include "TodayChordExtension/diagram/text_width.h"
 #include "TodayChordExtension/widgets/widget_metrics.h"

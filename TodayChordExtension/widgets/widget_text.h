@@ -8,9 +8,6 @@
 
 namespace todaychord {
 
-inline constexpr const char* regularFont = "Space Grotesk Medium";
-inline constexpr const char* boldFont = "SpaceGrotesk-SemiBold";
-
 /// A text of the widgets, given in English, in the user's language. tools/messages.sh finds the
 /// texts by this name.
 std::string localized(std::string_view english);

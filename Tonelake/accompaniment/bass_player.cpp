@@ -3,6 +3,7 @@
 #include "Tonelake/accompaniment/pattern_repetition.h"
 #include "Tonelake/accompaniment/players.h"
 #include "Tonelake/accompaniment/standard_pitches.h"
+#include "Tonelake/theory/octave.h"
 
 namespace tonelake {
 namespace {
@@ -13,8 +14,8 @@ constexpr int highBassNote = 35;
 
 // The lowest note of a pitch class that lies above `note`.
 int liftAbove(int note, int pitchClass) {
-  const int distance = (pitchClass - note % pitchClasses + pitchClasses) % pitchClasses;
-  return note + (distance == 0 ? pitchClasses : distance);
+  const int distance = (pitchClass - note % octave + octave) % octave;
+  return note + (distance == 0 ? octave : distance);
 }
 
 // The MIDI number; only for pitches that sound.
@@ -26,11 +27,11 @@ int bassNoteNumber(BassPitch pitch, const Chord& chord) {
       return liftAbove(root, pillars.third);
     case BassPitch::fifth: {
       const int above = liftAbove(root, pillars.fifth);
-      const int below = above - pitchClasses;
+      const int below = above - octave;
       return root >= highBassNote && below >= openBassString ? below : above;
     }
     case BassPitch::octave:
-      return root + pitchClasses;
+      return root + octave;
     case BassPitch::root:
     case BassPitch::rest:
       break;

@@ -5,11 +5,10 @@
 #include <initializer_list>
 
 #include "Tonelake/chords/chord_data_manager.h"
+#include "Tonelake/theory/octave.h"
 
 namespace tonelake {
 namespace {
-
-constexpr WholeNumber octave = 12;
 
 // The first of the wanted semitones above the root that the chord has, else 0, the root itself.
 WholeNumber firstOf(const WholeNumbers& tones, std::initializer_list<WholeNumber> wanted) {

@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "Tonelake/accompaniment/standard_pitches.h"
+#include "Tonelake/theory/octave.h"
 
 namespace tonelake {
 namespace {
@@ -36,7 +37,7 @@ int alternateBass(const Strings& sounding, const ChordShape& shape) {
   if (sounding.size() < 2) return sounding.front();
   const int fifth = findPillars(shape.chord).fifth;
   for (std::size_t i = 1; i + fingerCount < sounding.size(); ++i) {
-    if (pitchOnString(shape, sounding[i]) % pitchClasses == fifth) return sounding[i];
+    if (pitchOnString(shape, sounding[i]) % octave == fifth) return sounding[i];
   }
   return sounding[1];
 }

@@ -7,8 +7,6 @@
 
 namespace tonelake {
 
-inline constexpr int pitchClasses = 12;
-
 /// MIDI numbers of the open strings E A D G B E of a guitar, lowest first, as they sound.
 inline constexpr std::array<int, Tuning::stringCount> openGuitarStrings{40, 45, 50, 55, 59, 64};
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -26,18 +25,6 @@ std::pair<std::ptrdiff_t, std::string_view> preference(std::string_view type) {
   return {found - favouredChordTypes.begin(), type};
 }
 
-// Pitch class of the tone that lies `note` semitones above a root.
-int pitchOf(Note root, WholeNumber note) {
-  constexpr int octave = 12;
-  return (root.pitchClass() + static_cast<int>(note % octave) + octave) % octave;
-}
-
-PitchClassSet tonesOf(Note root, const WholeNumbers& notes) {
-  PitchClassSet tones = 0;
-  for (const WholeNumber note : notes) tones |= onlyPitchClass(pitchOf(root, note));
-  return tones;
-}
-
 }  // namespace
 
 ChordFinder::ChordFinder(std::span<const ChordData* const> types, std::span<const Note> roots)
@@ -45,7 +32,7 @@ ChordFinder::ChordFinder(std::span<const ChordData* const> types, std::span<cons
   for (const ChordData* data : types) types_.push_back({data->title, data->notes});
   for (std::size_t root = 0; root < roots_.size(); ++root) {
     for (std::size_t type = 0; type < types_.size(); ++type) {
-      const PitchClassSet tones = tonesOf(roots_[root], types_[type].notes);
+      const PitchClassSet tones = tonesAbove(roots_[root].pitchClass(), types_[type].notes);
       displayOrder_.push_back({tones, static_cast<std::uint16_t>(type),
                                static_cast<std::uint8_t>(root),
                                static_cast<std::uint8_t>(countPitchClasses(tones))});
@@ -65,12 +52,13 @@ std::vector<Chord> ChordFinder::findExact(const NoteList& notes) const {
   const bool isEachPieceAPitch =
       static_cast<std::size_t>(countPitchClasses(notes.pitches)) == notes.pieceCount;
   if (!notes.firstPitch || !isEachPieceAPitch) return {};
+  const PitchClassSet first = onlyPitchClass(*notes.firstPitch);
   std::vector<Chord> found;
   for (const Entry& entry : displayOrder_) {
     if (entry.tones != notes.pitches) continue;
     Chord chord = chordOf(entry);
     for (const WholeNumber note : types_[entry.type].notes) {
-      if (pitchOf(chord.rootNote, note) == *notes.firstPitch) found.push_back(chord);
+      if (onlyTone(chord.rootNote.pitchClass(), note) == first) found.push_back(chord);
       ++chord.variant;
     }
   }

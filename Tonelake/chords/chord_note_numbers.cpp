@@ -5,12 +5,11 @@
 
 #include "Tonelake/fingering/chord_positions.h"  // naming asks for a fingering: see CONTRIBUTING
 #include "Tonelake/foundation/fatal.h"
+#include "Tonelake/theory/octave.h"
 #include "Tonelake/theory/tuning.h"
 
 namespace tonelake::Chords {
 namespace {
-
-constexpr WholeNumber octave = 12;
 
 // Open strings E A D G B E, an octave low.
 constexpr std::array<WholeNumber, Tuning::stringCount> openStrings{28, 33, 38, 43, 47, 52};

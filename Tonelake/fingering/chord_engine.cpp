@@ -3,36 +3,17 @@
 #include <algorithm>
 #include <optional>
 
+#include "Tonelake/fingering/required_tones.h"
 #include "Tonelake/fingering/shape_search.h"
 #include "Tonelake/fingering/stored_positions.h"
 
 namespace tonelake {
 namespace {
 
-constexpr WholeNumber octave = 12;
-
 // No name stands for two pitches, so the order in which spellings are tried cannot matter.
 std::optional<int> findNote(std::string_view name) {
   const auto found = noteIndexByName().find(name);
   return found == noteIndexByName().end() ? std::nullopt : std::optional(found->second);
-}
-
-PitchClassSet chordNotes(int root, std::span<const WholeNumber> intervals) {
-  PitchClassSet notes = 0;
-  for (const WholeNumber interval : intervals) {
-    notes |= static_cast<PitchClassSet>(
-        1U << static_cast<unsigned>((root + interval % octave) % octave));
-  }
-  return notes;
-}
-
-// The perfect fifth may be left out of chords of four and more notes; everything else must sound.
-PitchClassSet requiredNotes(int root, std::span<const WholeNumber> intervals) {
-  constexpr WholeNumber fifth = 7;
-  constexpr std::size_t fewestNotesWithoutFifth = 4;
-  const PitchClassSet all = chordNotes(root, intervals);
-  if (intervals.size() < fewestNotesWithoutFifth) return all;
-  return static_cast<PitchClassSet>(all & ~chordNotes(root, std::span(&fifth, 1)));
 }
 
 bool isWrittenRegularly(std::string_view name) {
@@ -60,7 +41,7 @@ std::optional<ShapeQuery> makeQuery(std::string_view rootNote,
   const bool hasNegative =
       std::any_of(intervals.begin(), intervals.end(), [](WholeNumber n) { return n < 0; });
   if (!root || !strings || intervals.empty() || hasNegative) return std::nullopt;
-  return ShapeQuery{chordNotes(*root, intervals), requiredNotes(*root, intervals),
+  return ShapeQuery{tonesAbove(*root, intervals), requiredTones(*root, intervals),
                     static_cast<int>((*root + intervals.front() % octave) % octave), limit,
                     *strings};
 }

@@ -36,10 +36,6 @@ constexpr int stringCount = static_cast<int>(Tuning::stringCount);
 // B string ends at fret 12, the A string at fret 14. Kept on purpose.
 constexpr int namedPitches = 24;
 
-constexpr PitchClassSet noteBit(int pitch) {
-  return static_cast<PitchClassSet>(1U << static_cast<unsigned>(pitch) % 12);
-}
-
 // A string and where it sounds chord notes.
 struct ChordString {
   FretSet chordFrets = 0;
@@ -76,7 +72,7 @@ class ShapeSearch {
  public:
   explicit ShapeSearch(const ShapeQuery& query)
       : query_(query),
-        bass_(noteBit(query.bass)),
+        bass_(onlyPitchClass(query.bass)),
         // The limit is looked at after a shape has been added, so that 0 still gives one.
         limit_(query.limit == -1 ? SIZE_MAX
                                  : static_cast<std::size_t>(std::max<WholeNumber>(query.limit, 1))),
@@ -122,7 +118,7 @@ class ShapeSearch {
     ChordString string;
     string.ringsOpen = open.isNamedLikeChordNotes && isChordNote(open.pitchClass);
     for (int fret = 0; fret < fretCount && open.pitchClass + fret < namedPitches; ++fret) {
-      string.noteAt[static_cast<std::size_t>(fret)] = noteBit(open.pitchClass + fret);
+      string.noteAt[static_cast<std::size_t>(fret)] = onlyPitchClass(open.pitchClass + fret);
       if (isChordNote(open.pitchClass + fret)) string.chordFrets |= fretBit(fret);
     }
     for (std::size_t span = 0; span < spanCount; ++span) {
@@ -187,7 +183,7 @@ class ShapeSearch {
     if (candidates.count == 0) add(mutedString, fretBit(mutedString), 0);
   }
 
-  bool isChordNote(int pitch) const { return (query_.chordNotes & noteBit(pitch)) != 0; }
+  bool isChordNote(int pitch) const { return (query_.chordNotes & onlyPitchClass(pitch)) != 0; }
 
   bool holdsRequired(PitchClassSet notes) const { return (query_.requiredNotes & ~notes) == 0; }
 

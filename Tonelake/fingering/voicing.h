@@ -23,6 +23,8 @@ struct Voicing {
   friend bool operator==(const Voicing&, const Voicing&) = default;
 };
 
+inline constexpr int highestCapo = 12;  ///< the last fret a capo may be on
+
 /// What to look for.
 struct VoicingOptions {
   WholeNumber limit = -1;  ///< at most so many voicings, the best; any negative number gives all
@@ -30,8 +32,9 @@ struct VoicingOptions {
   int innerMutes = 1;      ///< muted strings allowed between sounding ones
   /// Whether open strings may ring while the whole hand is above the fifth fret.
   bool openStringsAboveFifthFret = false;
-  /// The fret of the capo, 0 (none) to 12. Frets count from it, and open strings sound there. The
-  /// chord asked for is the one that sounds: C major with the capo on 3 has the shapes of A major.
+  /// The fret of the capo, 0 (none) to highestCapo. Frets count from it, and open strings sound
+  /// there. The chord asked for is the one that sounds: C major with the capo on 3 has the shapes
+  /// of A major.
   int capo = 0;
 };
 

@@ -1,34 +1,25 @@
 #include "Tonelake/fingering/voicing_query.h"
 
 #include "Tonelake/chords/chord_data_manager.h"
+#include "Tonelake/fingering/required_tones.h"
+#include "Tonelake/fingering/voicing.h"
 #include "Tonelake/theory/spelling_tables.h"
 
 namespace tonelake::Voicings {
 namespace {
 
-constexpr int octave = 12;
 constexpr int fifth = 7;
-constexpr int highestCapo = 12;
 
-PitchClassSet toneAt(int root, WholeNumber interval) {
-  return noteAt(root + static_cast<int>(interval % octave));
-}
-
-// Every tone must sound, but the perfect fifth may be left out of a chord of four or more. Where it
-// is the bass it sounds all the same.
+// The fifth that may be left out sounds all the same where it is the bass.
 void setTones(const Chord& chord, const WholeNumbers& intervals, VoicingQuery& query) {
-  constexpr std::size_t fewestTonesWithoutFifth = 4;
   constexpr std::size_t tonesOfPowerChord = 2;
   const int root = chord.rootNote.pitchClass();
-  for (const WholeNumber interval : intervals) query.chordNotes |= toneAt(root, interval);
+  query.chordNotes = tonesAbove(root, intervals);
+  query.requiredNotes = requiredTones(root, intervals);
   const WholeNumber bass = intervals[static_cast<std::size_t>(chord.variant)];
-  query.bass = toneAt(root, bass);
-  query.fifthOfBass = toneAt(root, bass + fifth);
+  query.bass = onlyTone(root, bass);
+  query.fifthOfBass = onlyTone(root, bass + fifth);
   query.bassTone = static_cast<int>(chord.variant);
-  query.requiredNotes = query.chordNotes;
-  if (intervals.size() >= fewestTonesWithoutFifth) {
-    query.requiredNotes &= static_cast<PitchClassSet>(~toneAt(root, fifth));
-  }
   query.isPowerChord = intervals.size() == tonesOfPowerChord;
 }
 

@@ -4,16 +4,11 @@
 #include <optional>
 
 #include "Tonelake/chords/chord.h"
-#include "Tonelake/fingering/shape_search.h"
 #include "Tonelake/theory/frets.h"
+#include "Tonelake/theory/pitch_class_set.h"
 #include "Tonelake/theory/tuning.h"
 
 namespace tonelake::Voicings {
-
-/// The set that holds just the pitch class of `pitch`, 0 or more semitones above some C.
-constexpr PitchClassSet noteAt(int pitch) noexcept {
-  return static_cast<PitchClassSet>(1U << static_cast<unsigned>(pitch % 12));
-}
 
 /// A chord and an instrument in pitch classes, as the search for voicings sees them.
 struct VoicingQuery {
@@ -28,7 +23,7 @@ struct VoicingQuery {
 
   /// What a string sounds that is not muted.
   PitchClassSet noteOn(std::size_t string, const Frets& frets) const noexcept {
-    return noteAt(openPitches[string] + frets[string]);
+    return onlyPitchClass(openPitches[string] + frets[string]);
   }
 };
 

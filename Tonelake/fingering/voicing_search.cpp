@@ -93,7 +93,7 @@ class VoicingSearch {
   }
 
   void offer(std::size_t string, int fret) {
-    const PitchClassSet note = noteAt(query_.openPitches[string] + fret);
+    const PitchClassSet note = onlyPitchClass(query_.openPitches[string] + fret);
     if ((note & query_.chordNotes) == 0) return;
     Candidates& candidates = candidates_[string];
     candidates.list[static_cast<std::size_t>(candidates.count++)] = {static_cast<std::int8_t>(fret),

@@ -2,7 +2,6 @@
 #include <limits>
 #include <optional>
 #include <string>
-#include <utility>
 
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/patterns/pattern_json.h"

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "Tonelake/foundation/case_table.h"
+#include "Tonelake/theory/octave.h"
 
 namespace tonelake {
 namespace {
@@ -72,7 +73,6 @@ constexpr std::array<NoteRow, noteCount> noteTable{{
 }};
 // clang-format on
 
-constexpr int octave = 12;
 constexpr int pitchClassOfE = 4;
 
 constexpr int pitchClassOf(const NoteRow& row) {

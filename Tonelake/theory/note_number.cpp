@@ -1,6 +1,7 @@
 #include "Tonelake/theory/note_number.h"
 
 #include "Tonelake/foundation/fatal.h"
+#include "Tonelake/theory/octave.h"
 #include "Tonelake/theory/spelling_tables.h"
 
 namespace tonelake {
@@ -12,8 +13,8 @@ std::optional<NoteAndOctave> getNote(WholeNumber from) {
     stopWithProgrammingError("a MIDI note number from 0 to 11 has no octave");
   }
   const auto number = static_cast<std::size_t>(from);
-  return NoteAndOctave{*Note::fromRawValue(notesArrayRegular[number % 12]),
-                       static_cast<std::uint8_t>(number / 12 - 1)};
+  return NoteAndOctave{*Note::fromRawValue(notesArrayRegular[number % octave]),
+                       static_cast<std::uint8_t>(number / octave - 1)};
 }
 
 }  // namespace tonelake

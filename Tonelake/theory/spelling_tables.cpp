@@ -1,6 +1,7 @@
 #include "Tonelake/theory/spelling_tables.h"
 
 #include "Tonelake/foundation/fatal.h"
+#include "Tonelake/theory/octave.h"
 
 namespace tonelake {
 namespace {
@@ -9,7 +10,7 @@ std::unordered_map<std::string_view, int> indexNames() {
   std::unordered_map<std::string_view, int> indexes;
   for (const SpellingTable* table : spellingTables) {
     for (std::size_t i = 0; i < table->size(); ++i) {
-      const int pitchClass = static_cast<int>(i % 12);
+      const int pitchClass = static_cast<int>(i % octave);
       // The first index met for a name counts; a later one can only agree.
       const auto [entry, isNew] = indexes.emplace((*table)[i], pitchClass);
       if (!isNew && entry->second != pitchClass) {

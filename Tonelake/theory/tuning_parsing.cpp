@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "Tonelake/foundation/text.h"
-#include "Tonelake/theory/note.h"
 
 // "EbAbDbGbBbEb" is read from the left: a letter, then a sign if one follows, so E♭ A♭ D♭ G♭ B♭ E♭.
 // The only doubtful sign is "b", which in a text without capitals may be the note B as well:

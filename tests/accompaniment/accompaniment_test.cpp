@@ -17,6 +17,7 @@
 #include "Tonelake/chords/chord_dictionary.h"
 #include "Tonelake/fingering/voicings.h"
 #include "Tonelake/foundation/text.h"
+#include "Tonelake/theory/octave.h"
 
 namespace tonelake {
 namespace {
@@ -135,7 +136,7 @@ TEST(Accompaniment, LetsStringsRing) {
 std::set<int> tonesOf(const Chord& chord) {
   std::set<int> tones;
   for (const WholeNumber tone : Chords::getChordData(chord.chordType)->notes) {
-    tones.insert((chord.rootNote.pitchClass() + static_cast<int>(tone)) % pitchClasses);
+    tones.insert((chord.rootNote.pitchClass() + static_cast<int>(tone)) % octave);
   }
   return tones;
 }
@@ -151,7 +152,7 @@ void checkNotes(const std::vector<NoteEvent>& notes, const Accompaniment& accomp
     const ChordShape& shape =
         accompaniment
             .chords[static_cast<std::size_t>(note.start / bar) % accompaniment.chords.size()];
-    EXPECT_TRUE(tonesOf(shape.chord).contains(note.noteNumber % pitchClasses)) << note.start;
+    EXPECT_TRUE(tonesOf(shape.chord).contains(note.noteNumber % octave)) << note.start;
     EXPECT_EQ(note.start % ticksOf(NoteDuration::semiquaver), 0);
     EXPECT_GE(note.start, last);
     EXPECT_LT(note.delay, ticksOf(NoteDuration::demisemiquaver));

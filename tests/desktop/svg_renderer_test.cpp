@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <pugixml.hpp>
 
+#include "Desktop/number_text.h"
 #include "Desktop/svg_text.h"
 #include "TodayChordExtension/diagram/diagram_scene.h"
 #include "TodayChordExtension/diagram/scene_shapes.h"

@@ -4,7 +4,6 @@
 #include <cstring>
 #include <mutex>
 #include <string>
-#include <utility>
 
 #include "Desktop/gregorian_calendar.h"
 #include "Tonelake/platform/platform.h"

@@ -6,10 +6,8 @@
 
 #include "TodayChordExtension/widgets/shared_settings.h"
 #include "Tonelake/platform/platform.h"
-#include "zyndle/command_error.h"
 #include "zyndle/host.h"
 #include "zyndle/hosting/folder_options.h"
-#include "zyndle/output.h"
 #include "zyndle/translation.h"
 
 namespace zyndle {

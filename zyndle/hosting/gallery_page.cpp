@@ -2,7 +2,6 @@
 
 #include "Desktop/pluck_script.h"
 #include "Desktop/svg_renderer.h"
-#include "Tonelake/foundation/text.h"
 #include "zyndle/hosting/embedded_web.h"
 #include "zyndle/hosting/gallery.h"
 #include "zyndle/translation.h"

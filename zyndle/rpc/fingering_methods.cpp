@@ -67,10 +67,9 @@ int smallNumberOr(const json::Node& parameters, std::string_view key, int fallba
 }
 
 VoicingOptions voicingOptions(const json::Node& parameters) {
-  constexpr WholeNumber highestCapo = 12;
   VoicingOptions options;
   if (const auto capo = parameters.optionalMember("capo")) {
-    options.capo = static_cast<int>(capo->wholeNumber(0, highestCapo));
+    options.capo = static_cast<int>(capo->wholeNumber(0, tonelake::Voicings::highestCapo));
   }
   return options;
 }

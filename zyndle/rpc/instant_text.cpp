@@ -1,7 +1,5 @@
 #include "zyndle/rpc/instant_text.h"
 
-#include <cstddef>
-
 #include <fmt/format.h>
 
 namespace zyndle {

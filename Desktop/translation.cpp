@@ -1,8 +1,8 @@
-#include "zyndle/translation.h"
+#include "Desktop/translation.h"
 
 #include <utility>
 
-namespace zyndle {
+namespace desktop {
 namespace {
 
 std::shared_ptr<const tonelake::StringTable>& chosenStrings() {
@@ -24,4 +24,4 @@ std::string translated(const char* english) {
   return chosenStrings()->localized(english);
 }
 
-}  // namespace zyndle
+}  // namespace desktop
