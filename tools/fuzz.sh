@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # tools/fuzz.sh [SECONDS] [NAME...]: runs the fuzzers of fuzz/, or the named ones, for SECONDS each
 # (10 without a number), as many at once as there are processors. Searches go on from where the
-# last run ended. What is found is kept in build/fuzz/findings, and is examined again by
-# build/fuzz/fuzz/NAME_fuzzer FILE.
+# last run ended. What is found is kept in build/asan/findings, and is examined again by
+# build/asan/fuzz/NAME_fuzzer FILE.
 set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=set_up.sh
 source "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/set_up.sh"
@@ -22,15 +22,15 @@ done
 
 (
   lock_build_folder
-  install_packages "${zyndle_packages[@]}" "${clang_packages[@]}"
+  install_packages "${zyndle_packages[@]}" "${test_packages[@]}" "${clang_packages[@]}"
   say "building ${#names[@]} fuzzers"
-  build fuzz "${names[@]/%/_fuzzer}"
+  build asan "${names[@]/%/_fuzzer}"
 )
 
 # run_fuzzer SECONDS NAME: one search and one line about it. Inputs that take long are findings of
 # the fuzzers' own; the timeout is for those that never end.
 run_fuzzer() {
-  local seconds=$1 name=$2 folder=$root/build/fuzz
+  local seconds=$1 name=$2 folder=$root/build/asan
   local program=$folder/fuzz/${name}_fuzzer corpus=$folder/corpus/$name seeds=$folder/seeds/$name
   local log=$folder/$name.log
   mkdir -p "$corpus" "$seeds" "$folder/findings"
