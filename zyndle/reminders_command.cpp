@@ -28,8 +28,8 @@ Examples:
   zyndle reminders list
   zyndle reminders cancel --category jazz
   zyndle reminders install                   from now on, a timer delivers them
-  zyndle reminders deliver --wait            deliver while this runs; a click on a
-                                             reminder opens its chord
+  zyndle reminders deliver --wait            deliver while this runs; a click on
+                                             a reminder opens its chord
   zyndle reminders export -o chords.ics      for a calendar, on a telephone say)");
 
 void addMonthOptions(CLI::App& command, MonthOptions& options) {

@@ -15,8 +15,8 @@ namespace {
 
 constexpr const char* examples =
     message(R"(DIR gets each widget in each family as a picture and index.html, which shows
-them as a home screen does. There a pointer plucks strings, and a tap follows the
-link of a card.
+them as a home screen does. There a pointer plucks strings, and a tap follows
+the link of a card.
 
 Examples:
   zyndle gallery widgets && xdg-open widgets/index.html
