@@ -25,6 +25,7 @@ Chord chordNamed(std::string_view name) {
 
 std::vector<std::vector<int>> fretsOf(const std::vector<Voicing>& voicings) {
   std::vector<std::vector<int>> list;
+  list.reserve(voicings.size());
   for (const Voicing& voicing : voicings) {
     list.emplace_back(voicing.position.position.begin(), voicing.position.position.end());
   }
