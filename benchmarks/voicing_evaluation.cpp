@@ -143,7 +143,8 @@ class Order {
     Hits movedToo;
     Hits taughtToo;
     Hits taught;
-    for (const auto& [key, known] : chords_) {
+    for (const auto& entry : chords_) {
+      const auto& known = entry.second;
       const auto voicings = Voicings::findVoicings(known.chord, Tuning::standard);
       const auto isPublished = [&](const Frets& f) { return known.published.contains(f); };
       const auto isMoved = [&](const Frets& f) { return isPublished(f) || isMovable(known, f); };

@@ -14,7 +14,6 @@ namespace tonelake::ChordProgressions {
 namespace {
 
 using ::testing::AnyOf;
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;

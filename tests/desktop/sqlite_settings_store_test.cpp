@@ -39,7 +39,8 @@ class SqliteSettingsStoreTest : public testing::Test {
 // What every store promises, whatever it is made of: a key has one value, of one type.
 void expectContract(tonelake::SettingsStore& store) {
   for (const std::string& key : {"todayChordCategory"s, ""s, "ключ ♯"s, "with\0zero"s}) {
-    const auto expectOnly = [&](std::optional<std::string> text, std::optional<std::string> data,
+    const auto expectOnly = [&](const std::optional<std::string>& text,
+                                const std::optional<std::string>& data,
                                 std::optional<bool> boolean) {
       EXPECT_EQ(store.text(key), text) << key;
       EXPECT_EQ(store.data(key), data) << key;
@@ -78,6 +79,7 @@ TEST_F(SqliteSettingsStoreTest, ServesManyThreads) {
   constexpr int writes = 100;
   const auto writeFromThreads = [](tonelake::SettingsStore& store) {
     std::vector<std::jthread> threads;
+    threads.reserve(threadCount);
     for (int thread = 0; thread < threadCount; ++thread) {
       threads.emplace_back([&, thread] {
         for (int i = 0; i < writes; ++i) {

@@ -210,6 +210,7 @@ TEST_F(WidgetProviders, AnswerManyThreadsWhileSettingsChange) {
   const ChordProvider today(sources());
   const RecentChordsProvider recent(sources());
   std::vector<std::thread> threads;
+  threads.reserve(4);
   for (int i = 0; i < 4; ++i) {
     threads.emplace_back([&, i] {
       for (int round = 0; round < 50; ++round) {
