@@ -5,6 +5,7 @@
 
 #include "TodayChordExtension/widgets/shared_settings_editing.h"
 #include "TodayChordExtension/widgets/widget_chord_collection_json.h"
+#include "Tonelake/foundation/text.h"
 #include "tests/support/printing.h"
 
 namespace todaychord {
@@ -73,8 +74,12 @@ TEST_F(SharedSettingsTest, GiveChordsAsTheyAreStored) {
 
 // One damaged record makes the whole value worthless, wherever it stands.
 TEST_F(SharedSettingsTest, TakeDamagedDataForNone) {
-  const std::string start = R"({"id":"1","title":"A","imageName":"i","chords":)";
-  const std::string good = start + "[]}";
+  const auto listOf = [](const std::vector<std::string>& items) {
+    return "[" + tonelake::join(items, ",") + "]";
+  };
+  const auto collectionOf = [&](const std::vector<std::string>& chords) {
+    return R"({"id":"1","title":"A","imageName":"i","chords":)" + listOf(chords) + "}";
+  };
   const std::string records[] = {
       R"({"rootNote":"C","chordType":"major"})",
       R"({"rootNote":"C","chordType":"major","variant":"0"})",
@@ -92,9 +97,9 @@ TEST_F(SharedSettingsTest, TakeDamagedDataForNone) {
       std::string(200'000, '['),
   };
   for (const std::string& record : records) {
-    EXPECT_THAT(chordsIn("[" + record + "]"), IsEmpty()) << record.substr(0, 99);
-    EXPECT_THAT(chordsIn("[" + cMajor + "," + record + "]"), IsEmpty()) << record.substr(0, 99);
-    EXPECT_THAT(collectionsIn("[" + good + "," + start + "[" + record + "]}]"), IsEmpty());
+    EXPECT_THAT(chordsIn(listOf({record})), IsEmpty()) << record.substr(0, 99);
+    EXPECT_THAT(chordsIn(listOf({cMajor, record})), IsEmpty()) << record.substr(0, 99);
+    EXPECT_THAT(collectionsIn(listOf({collectionOf({}), collectionOf({record})})), IsEmpty());
   }
   const std::string texts[] = {
       "", "null", cMajor, "[" + cMajor, "[" + cMajor + ",]", "[" + cMajor + "]]"};
@@ -105,9 +110,9 @@ TEST_F(SharedSettingsTest, TakeDamagedDataForNone) {
                              R"({"id":1,"title":"A","imageName":"i","chords":[]})",
                              R"({"id":"1","title":"A","imageName":null,"chords":[]})",
                              R"({"id":"1","title":"A","imageName":"i","chords":{}})"}) {
-    EXPECT_THAT(collectionsIn("[" + good + "," + record + "]"), IsEmpty()) << record;
+    EXPECT_THAT(collectionsIn(listOf({collectionOf({}), record})), IsEmpty()) << record;
   }
-  EXPECT_THAT(collectionsIn("[" + good + "]"), SizeIs(1)) << "the rows above begin well";
+  EXPECT_THAT(collectionsIn(listOf({collectionOf({})})), SizeIs(1)) << "the rows above begin well";
 }
 
 TEST_F(SharedSettingsTest, KeepCollectionsThroughJson) {
