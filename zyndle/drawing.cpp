@@ -96,8 +96,10 @@ void writeSvgOfRow(const OutputOptions& options, const std::string& title,
     const std::string name = tonelake::Chords::getTitleForChord(shape.chord);
     const todaychord::Scene card = todaychord::drawDiagramCard(
         viewOf(shape.chord, shape.position, tuning, style), name, cardWidth);
-    const todaychord::Point corner{static_cast<double>(i % cardsInRow) * (card.width + gap),
-                                   static_cast<double>(i / cardsInRow) * (card.height + gap)};
+    const std::size_t row = i / cardsInRow;
+    const std::size_t column = i % cardsInRow;
+    const todaychord::Point corner{static_cast<double>(column) * (card.width + gap),
+                                   static_cast<double>(row) * (card.height + gap)};
     picture.items.push_back({todaychord::SceneGroup{"card-" + std::to_string(i + 1),
                                                     todaychord::placed(card.items, {corner})}});
     picture.width = std::max(picture.width, corner.x + card.width);

@@ -58,6 +58,7 @@ TEST(VoicingConnection, MovesLessThanTheFirstShapes) {
         "F Dm Bb C", "Am G F E", "Am7 D7 Gmaj7 Cmaj7 F#m7b5 B7 Em"}) {
     const auto chords = chordsNamed(names);
     std::vector<Voicing> firsts;
+    firsts.reserve(chords.size());
     for (const Chord& chord : chords) firsts.push_back(findVoicings(chord, Tuning::standard)[0]);
     const auto connected = connectVoicings(chords, Tuning::standard);
     ASSERT_THAT(connected, ::testing::SizeIs(chords.size())) << names;
