@@ -11,12 +11,15 @@ namespace tonelake {
 
 class ChordDataManager;
 
-/// A chord that claims a name. What the claim is worth: whether the name is other than the chord's
-/// exact title, then the length of the type's name in characters. The smaller claim wins.
+/// A chord that claims a name.
 struct ClaimedChord {
-  Chord chord;
+  Chord chord;  ///< the claimant
+  /// What the claim is worth, the smaller the more: whether the name is other than the chord's
+  /// exact title, then the length of the type's name in characters.
   std::tuple<bool, std::size_t> claim;
 };
+
+/// Chords by the names that they hold.
 using ClaimedNames = std::unordered_map<std::string, ClaimedChord>;
 
 /// Lets `chord` have `name`, unless a chord that came earlier has a claim as good.
