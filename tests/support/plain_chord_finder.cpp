@@ -110,6 +110,7 @@ std::vector<Chord> PlainChordFinder::findMatching(const std::string& notes) cons
   std::stable_sort(scored.begin(), scored.end(),
                    [&](const auto& a, const auto& b) { return key(a) < key(b); });
   std::vector<Chord> found;
+  found.reserve(scored.size());
   for (const auto& entry : scored) found.push_back(std::get<3>(entry));
   return found;
 }
