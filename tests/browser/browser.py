@@ -35,7 +35,13 @@ class Browser:
         return self
 
     def __exit__(self, *_):
-        self._process.kill()
+        # In order, so that none of its processes still writes into the profile afterwards.
+        self._session = None
+        try:
+            self.call("Browser.close")
+            self._process.wait(timeout=20)
+        except (OSError, RuntimeError, subprocess.TimeoutExpired):
+            self._process.kill()
         self._process.wait()
 
     def _read(self):

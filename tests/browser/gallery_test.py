@@ -51,7 +51,9 @@ OVERFLOWING = """[...document.querySelectorAll('svg')].flatMap(svg => {
 
 class Gallery(unittest.TestCase):
     def setUp(self):
-        self.folder = self.enterContext(tempfile.TemporaryDirectory())
+        # A browser that had to be killed may leave a process behind that writes a moment longer.
+        folder = tempfile.TemporaryDirectory(ignore_cleanup_errors=True)
+        self.folder = self.enterContext(folder)
         self.browser = self.enterContext(Browser(CHROMIUM, self.folder + "/profile"))
 
     def zyndle(self, *arguments):
