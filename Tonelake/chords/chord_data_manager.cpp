@@ -91,14 +91,16 @@ ChordDataManager::ChordDictionary ChordDataManager::makeDictionary() const {
 
 // "C♯" begins with "C" as well, where it might be a type's sign: both roots have a say.
 std::optional<Chord> ChordDataManager::chordNamed(std::string_view name) const {
-  ClaimedNames claims;
+  const ClaimedChord* holder = nullptr;
   const std::string key(name);
   for (std::size_t i = 0; i < rootNotes.size(); ++i) {
     if (!name.starts_with(rootNotes[i].rawValue())) continue;
-    const auto found = namesOn(i).find(key);
-    if (found != namesOn(i).end()) claimName(claims, key, found->second);
+    const ClaimedNames& names = namesOn(i);
+    const auto found = names.find(key);
+    if (found == names.end()) continue;
+    if (holder == nullptr || found->second.claim < holder->claim) holder = &found->second;
   }
-  return claims.empty() ? std::nullopt : std::optional(claims.begin()->second.chord);
+  return holder == nullptr ? std::nullopt : std::optional(holder->chord);
 }
 
 const ClaimedNames& ChordDataManager::namesOn(std::size_t rootIndex) const {
