@@ -27,6 +27,7 @@ struct ProcessCost {
 // Its output is thrown away. The most memory it held, in kB.
 long run(const std::vector<std::string>& arguments) {
   std::vector<char*> pointers;
+  pointers.reserve(arguments.size() + 1);
   for (const std::string& argument : arguments) {
     pointers.push_back(const_cast<char*>(argument.c_str()));
   }

@@ -31,7 +31,7 @@ Messages readMessages(const std::string& name) {
     if (line.starts_with("msgid ")) text = &(key = "");
     if (line.starts_with("msgstr ")) text = &(messages[key] = "");
     const std::size_t quote = line.find('"');
-    if (line.starts_with("#") || quote == std::string::npos) continue;
+    if (line.starts_with("#") || quote == std::string::npos || text == nullptr) continue;
     *text += line.substr(quote + 1, line.size() - quote - 2);
   }
   messages.erase("");
