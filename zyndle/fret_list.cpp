@@ -14,7 +14,6 @@ namespace zyndle {
 namespace {
 
 using tonelake::Frets;
-using tonelake::quoted;
 
 constexpr int highestFret = 24;
 
