@@ -16,20 +16,16 @@
 namespace desktop {
 namespace {
 
-constexpr mode_t newFileMode = 0666;  // less what the user's mask takes away
-
 // Into a new file, which gets the mode of the one at `path`. 0 or an error number.
 int writeDraft(const std::string& draft, const std::string& path, std::string_view contents) {
-  const int file = ::open(draft.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, newFileMode);
+  const int file = openForWriting(draft, O_EXCL);
   if (file < 0) return errno;
   int error = writeAll(file, contents);
   struct stat old {};
   if (error == 0 && ::stat(path.c_str(), &old) == 0 && ::fchmod(file, old.st_mode) != 0) {
     error = errno;
   }
-  // Some file systems only tell on closing that there is no room.
-  if (::close(file) != 0 && error == 0) error = errno;
-  return error;
+  return closeWritten(file, error);
 }
 
 }  // namespace

@@ -45,6 +45,15 @@ std::optional<std::string> readFile(const std::string& path, std::size_t limit) 
   return contents;
 }
 
+int openForWriting(const std::string& path, int flags) {
+  constexpr mode_t newFileMode = 0666;
+  return ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | flags, newFileMode);
+}
+
+int closeWritten(int descriptor, int error) {
+  return ::close(descriptor) == 0 || error != 0 ? error : errno;
+}
+
 int writeAll(int descriptor, std::string_view text) {
   while (!text.empty()) {
     const ssize_t written = ::write(descriptor, text.data(), text.size());

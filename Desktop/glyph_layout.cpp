@@ -14,8 +14,6 @@
 namespace desktop {
 namespace {
 
-constexpr std::string_view replacement = "\xEF\xBF\xBD";  // U+FFFD
-
 // What only tells other letters how to look takes no room and is not drawn: joiners, marks of
 // direction, variation selectors, the byte order mark.
 bool isInvisible(std::string_view character) {
@@ -35,7 +33,7 @@ bool isInvisible(std::string_view character) {
 // One character as it is set.
 std::string_view clean(std::string_view character) {
   if (character == "\t" || character == "\n" || character == "\r") return " ";
-  return tonelake::isPrintable(character) ? character : replacement;
+  return tonelake::isPrintable(character) ? character : tonelake::replacementCharacter;
 }
 
 struct FoundGlyph {

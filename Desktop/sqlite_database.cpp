@@ -22,8 +22,7 @@ int bindOne(sqlite3_stmt* statement, int index, const SqliteParameter& parameter
 
 }  // namespace
 
-SqliteDatabase::Opening SqliteDatabase::open(const std::string& file,
-                                             std::chrono::milliseconds patience, int longestRow) {
+SqliteDatabase::Opening SqliteDatabase::open(const std::string& file, int longestRow) {
   sqlite3* connection = nullptr;
   // No mutex of its own: whoever shares the connection between threads has one.
   const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;

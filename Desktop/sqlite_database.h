@@ -22,10 +22,12 @@ class SqliteDatabase {
     std::string problem;
   };
 
-  /// Opens or creates the file. What is locked by another process is waited for, up to
-  /// `patience`; rows longer than `longestRow` bytes are refused. A file that is no database is
-  /// found out by the first statement only.
-  static Opening open(const std::string& file, std::chrono::milliseconds patience, int longestRow);
+  /// How long what another process has locked is waited for.
+  static constexpr std::chrono::milliseconds patience = std::chrono::seconds(5);
+
+  /// Opens or creates the file. Rows longer than `longestRow` bytes are refused. A file that is no
+  /// database is found out by the first statement only.
+  static Opening open(const std::string& file, int longestRow);
 
   SqliteDatabase(const SqliteDatabase&) = delete;
   SqliteDatabase& operator=(const SqliteDatabase&) = delete;

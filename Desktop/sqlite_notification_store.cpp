@@ -11,7 +11,6 @@ namespace {
 
 using Parameter = SqliteParameter;
 
-constexpr std::chrono::milliseconds patience = std::chrono::seconds(5);
 constexpr int longestRow = 1 << 20;
 
 // Other programs' settings are in the file, too: nothing of theirs is touched, and a version of
@@ -73,7 +72,7 @@ SqliteNotificationStore::Opening SqliteNotificationStore::open(const std::string
   const auto settings =
       openSettingsFile(file, makeStreamDiagnostics(tonelake::DiagnosticStream::standardError));
   if (settings.store == nullptr) return {nullptr, settings.problem};
-  auto [database, problem] = SqliteDatabase::open(file, patience, longestRow);
+  auto [database, problem] = SqliteDatabase::open(file, longestRow);
   if (database == nullptr) return {nullptr, file + ": " + problem};
   if (!database->execute("PRAGMA synchronous = FULL") || !makeTables(*database)) {
     return {nullptr, file + ": " + database->problem()};

@@ -12,7 +12,6 @@ namespace {
 
 using Parameter = SqliteParameter;
 
-constexpr std::chrono::milliseconds patience = std::chrono::seconds(5);
 constexpr int formatNumber = 1;
 // A row holds the setting, its type and a few bytes of the file's own.
 constexpr int longestRow = static_cast<int>(SqliteSettingsStore::longestSetting) + 1024;
@@ -77,7 +76,7 @@ std::optional<std::string> prepareFile(SqliteDatabase& database) {
 // Two processes that make the same file block each other while its journal changes, and of those
 // SQLite turns one away without any waiting. By the next attempt the other is done.
 std::optional<std::string> prepareFilePatiently(SqliteDatabase& database) {
-  const auto deadline = std::chrono::steady_clock::now() + patience;
+  const auto deadline = std::chrono::steady_clock::now() + SqliteDatabase::patience;
   for (;;) {
     auto wrong = prepareFile(database);
     const bool isWorthAnotherTry =
@@ -93,7 +92,7 @@ std::optional<std::string> prepareFilePatiently(SqliteDatabase& database) {
 
 SqliteSettingsStore::Opening SqliteSettingsStore::open(
     const std::string& file, std::shared_ptr<tonelake::Diagnostics> diagnostics) {
-  auto [database, problem] = SqliteDatabase::open(file, patience, longestRow);
+  auto [database, problem] = SqliteDatabase::open(file, longestRow);
   if (database == nullptr) return {nullptr, file + ": " + problem};
   if (const auto wrong = prepareFilePatiently(*database)) return {nullptr, file + ": " + *wrong};
   return {std::shared_ptr<SqliteSettingsStore>(

@@ -9,8 +9,6 @@ namespace {
 
 using todaychord::Point;
 
-constexpr std::string_view replacement = "\xEF\xBF\xBD";  // U+FFFD
-
 // A comma is not needed before a minus, but a blank reads better and costs the same.
 std::string formatPoint(Point point) {
   return formatNumber(point.x) + ' ' + formatNumber(point.y);
@@ -64,7 +62,7 @@ std::vector<TextSpan> raiseMusicSigns(std::string_view text, double fontSize) {
 std::string cleanForXml(std::string_view text) {
   std::string clean;
   for (const std::string_view character : tonelake::splitCharacters(text)) {
-    clean += isAllowed(character) ? character : replacement;
+    clean += isAllowed(character) ? character : tonelake::replacementCharacter;
   }
   return clean;
 }

@@ -5,7 +5,7 @@ set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=set_up.sh
 source "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/set_up.sh"
 
-install_packages "${check_packages[@]}"
+install_alone "${check_packages[@]}"
 (cd "$root" && shellcheck --external-sources zyndle.sh test.sh tools/*.sh tests/*/*.sh \
   zyndle/completions/*.bash .ci/run)
 "$root/tools/docs.sh"

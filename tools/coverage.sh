@@ -5,7 +5,6 @@ set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=set_up.sh
 source "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/set_up.sh"
 
-install_packages "${coverage_packages[@]}"
 find "$root/build/coverage" -name '*.gcda' -delete 2>/dev/null || true
 test_preset coverage
 gcovr --root "$root" --object-directory "$root/build/coverage" \

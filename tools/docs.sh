@@ -5,7 +5,7 @@ set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=set_up.sh
 source "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/set_up.sh"
 
-install_packages "${docs_packages[@]}"
+install_alone "${docs_packages[@]}"
 cd "$root"
 rm -rf build/docs
 mkdir -p build/docs/html/docs

@@ -20,12 +20,7 @@ for name in "${names[@]}"; do
   [[ -f $root/fuzz/${name}_fuzzer.cpp ]] || fail "there is no fuzzer named '$name' in fuzz/"
 done
 
-(
-  lock_build_folder
-  install_packages "${zyndle_packages[@]}" "${test_packages[@]}" "${clang_packages[@]}"
-  say "building ${#names[@]} fuzzers"
-  build asan "${names[@]/%/_fuzzer}"
-)
+prepare asan "${names[@]/%/_fuzzer}"
 
 # run_fuzzer SECONDS NAME: one search and one line about it. Inputs that take long are findings of
 # the fuzzers' own; the timeout is for those that never end.

@@ -33,11 +33,7 @@ if [[ ${1:-} == --check ]]; then
   exit
 fi
 
-(
-  lock_build_folder
-  install_packages "${zyndle_packages[@]}" "${test_packages[@]}"
-  build dev library_messages
-)
+prepare dev library_messages
 print_template build/dev/tools/messages/library_messages >"$root/build/tonelake.pot"
 mv "$root/build/tonelake.pot" "$template"
 for catalogue in Tonelake/resources/locale/*.po; do

@@ -8,19 +8,11 @@ source "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/set_up.sh"
 preset=${1:-}
 [[ $preset == asan || $preset == tsan ]] || fail "the first argument is asan or tsan"
 shift
-(
-  lock_build_folder
-  install_packages "${zyndle_packages[@]}" "${test_packages[@]}" "${clang_packages[@]}"
-)
 if (($# == 0)); then
   test_preset "$preset"
   exit
 fi
-(
-  lock_build_folder
-  say "building $preset"
-  build "$preset" "${@/%/_test}"
-)
+prepare "$preset" "${@/%/_test}"
 for name; do
   quietly "$root/build/$preset-$name.log" "$root/build/$preset/tests/${name}_test" ||
     fail "${name}_test failed, see above"

@@ -106,16 +106,30 @@ build() {
     fail "building $preset failed, see above"
 }
 
-# test_preset PRESET [CTEST-ARGUMENT...]: installs what the tests need, builds them and runs them.
+# install_alone PACKAGE...: installs what is missing while nobody else builds in this folder.
+install_alone() (
+  lock_build_folder
+  install_packages "$@"
+)
+
+# prepare PRESET [TARGET...]: installs what a preset with tests takes, and builds it.
+prepare() (
+  lock_build_folder
+  packages=("${zyndle_packages[@]}" "${test_packages[@]}")
+  case $1 in
+    asan | tsan) packages+=("${clang_packages[@]}") ;;
+    coverage) packages+=("${coverage_packages[@]}") ;;
+  esac
+  install_packages "${packages[@]}"
+  say "building $1"
+  build "$@"
+)
+
+# test_preset PRESET [CTEST-ARGUMENT...]: builds the tests and runs them.
 test_preset() {
   local preset=$1
   shift
-  (
-    lock_build_folder
-    install_packages "${zyndle_packages[@]}" "${test_packages[@]}"
-    say "building $preset"
-    build "$preset"
-  )
+  prepare "$preset"
   ctest --test-dir "$root/build/$preset" --parallel "$(nproc)" --output-on-failure \
     --no-tests=error "$@"
 }

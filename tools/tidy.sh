@@ -5,12 +5,8 @@ set -euo pipefail
 # shellcheck source-path=SCRIPTDIR source=set_up.sh
 source "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/set_up.sh"
 
-(
-  lock_build_folder
-  install_packages "${zyndle_packages[@]}" "${test_packages[@]}" "${clang_packages[@]}" \
-    "${check_packages[@]}"
-  build asan
-)
+install_alone "${check_packages[@]}"
+prepare asan
 # Generated sources lie in build/ and are not ours to tidy. The largest files come first, so that
 # no processor is left alone with one at the end.
 files=$(sed -n 's/^ *"file": "\(.*\)",*$/\1/p' "$root/build/asan/compile_commands.json" |

@@ -15,7 +15,6 @@
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/theory/note.h"
 #include "Tonelake/theory/octave.h"
-#include "Tonelake/theory/spelling_tables.h"
 #include "zyndle/chord_name.h"
 #include "zyndle/chord_sheet.h"
 #include "zyndle/chord_words.h"
@@ -73,9 +72,8 @@ struct ShownChord {
 Chord playedChord(Chord chord, int capo) {
   using tonelake::octave;
   if (capo % octave == 0) return chord;
-  const auto pitch =
-      static_cast<std::size_t>((chord.rootNote.pitchClass() + octave - capo) % octave);
-  chord.rootNote = *tonelake::Note::fromRawValue(tonelake::notesArrayRegular[pitch]);
+  chord.rootNote =
+      tonelake::Note::sharpOfPitchClass(chord.rootNote.pitchClass() + octave - capo % octave);
   return chord;
 }
 

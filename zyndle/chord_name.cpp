@@ -9,6 +9,7 @@
 #include "Tonelake/chords/chord_naming.h"
 #include "Tonelake/chords/chord_spelling.h"
 #include "Tonelake/foundation/text.h"
+#include "Tonelake/theory/music_signs.h"
 #include "Tonelake/theory/note.h"
 #include "zyndle/command_error.h"
 #include "zyndle/nearest_names.h"
@@ -105,10 +106,6 @@ std::string withCapital(std::string name) {
   return name;
 }
 
-std::string withSigns(std::string_view name) {
-  return tonelake::replaceAll(tonelake::replaceAll(name, "#", "♯"), "b", "♭");
-}
-
 // The parts before and after the last "/", if a note follows it: "C6/9" has no bass.
 std::optional<std::pair<std::string, Note>> splitBass(std::string_view name) {
   const std::size_t slash = name.rfind('/');
@@ -180,7 +177,7 @@ std::string plainChordName(std::string_view typed) {
     name = parts->first;
     bass = "/" + std::string(parts->second.rawValue());
   }
-  name = withSigns(name);
+  name = tonelake::withMusicSigns(name);
   return name.substr(0, 1) +
          plainQuality(std::string_view(name).substr(std::min<std::size_t>(1, name.size()))) + bass;
 }

@@ -12,7 +12,6 @@
 #include "Tonelake/chords/chord_naming.h"
 #include "Tonelake/chords/inversion.h"
 #include "Tonelake/foundation/text.h"
-#include "Tonelake/theory/octave.h"
 #include "Tonelake/theory/spelling_tables.h"
 #include "zyndle/command_error.h"
 #include "zyndle/drawing.h"
@@ -73,8 +72,7 @@ std::vector<Note> notesOnStrings(const tonelake::Frets& frets, const Instrument&
   for (std::size_t string = 0; string < frets.size(); ++string) {
     if (frets[string] == tonelake::mutedString) continue;
     const int pitch = tonelake::noteIndexByName().at(open[string]) + frets[string];
-    const auto place = static_cast<std::size_t>(pitch % tonelake::octave);
-    notes.push_back(*Note::fromRawValue(tonelake::notesArrayRegular[place]));
+    notes.push_back(Note::sharpOfPitchClass(pitch));
   }
   return notes;
 }

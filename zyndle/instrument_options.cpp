@@ -4,6 +4,7 @@
 
 #include "Tonelake/fingering/voicing.h"
 #include "Tonelake/foundation/text.h"
+#include "Tonelake/theory/note.h"
 #include "Tonelake/theory/spelling_tables.h"
 #include "Tonelake/theory/tuning_parsing.h"
 #include "zyndle/command_error.h"
@@ -62,7 +63,7 @@ TuningNames soundingStrings(const Instrument& instrument) {
   TuningNames names;
   for (const std::string& open : instrument.tuning) {
     const int pitch = tonelake::noteIndexByName().at(open) + instrument.capo;
-    names.emplace_back(tonelake::notesArrayRegular[static_cast<std::size_t>(pitch)]);
+    names.emplace_back(tonelake::Note::sharpOfPitchClass(pitch).rawValue());
   }
   return names;
 }

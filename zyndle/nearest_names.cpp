@@ -6,7 +6,7 @@
 #include <unordered_map>
 
 #include "Tonelake/chords/chord_data_manager.h"
-#include "Tonelake/foundation/text.h"
+#include "Tonelake/theory/music_signs.h"
 
 namespace zyndle {
 namespace {
@@ -60,7 +60,7 @@ std::size_t editDistance(std::string_view one, std::string_view other, std::size
 std::vector<Chord> nearestChords(std::string_view name) {
   // Compared in their ASCII form, in which a sign is one byte. Every name has one but those with
   // a double sharp.
-  const std::string plain = tonelake::replaceAll(tonelake::replaceAll(name, "♯", "#"), "♭", "b");
+  const std::string plain = tonelake::withTypedSigns(name);
   std::size_t limit = tolerance(plain);
   std::unordered_map<Chord, Candidate> best;
   for (const auto& [key, chord] : tonelake::Chords::getChordDictionary()) {

@@ -18,20 +18,15 @@
 namespace zyndle {
 namespace {
 
-constexpr mode_t newFileMode = 0666;  // less what the user's mask takes away
-
 [[noreturn]] void failWriting(const std::string& target, int error) {
   fail(translated("cannot write {0}: {1}", target, std::strerror(error)));
 }
 
 // Straight into what stands at `path`, which may be a device or a pipe. 0 or an error number.
 int writeInto(const std::string& path, std::string_view text) {
-  const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, newFileMode);
+  const int file = desktop::openForWriting(path, O_TRUNC);
   if (file < 0) return errno;
-  int error = desktop::writeAll(file, text);
-  // Some file systems only tell on closing that there is no room.
-  if (::close(file) != 0 && error == 0) error = errno;
-  return error;
+  return desktop::closeWritten(file, desktop::writeAll(file, text));
 }
 
 // Whether nothing is lost when the file at `path` gives way to a new one: a link stays a link, a
@@ -67,7 +62,7 @@ void reportProblem(std::string_view message) noexcept {
 std::string printable(std::string_view text) {
   std::string line;
   for (const std::string_view character : tonelake::splitCharacters(text)) {
-    line += tonelake::isPrintable(character) ? character : "\uFFFD";
+    line += tonelake::isPrintable(character) ? character : tonelake::replacementCharacter;
   }
   return line;
 }

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "Tonelake/foundation/text.h"
+#include "Tonelake/theory/music_signs.h"
 #include "zyndle/command_error.h"
 #include "zyndle/translation.h"
 
@@ -17,11 +18,6 @@ bool isNumeral(std::string_view word) {
   constexpr std::array<std::string_view, 14> numerals{"I", "II", "III", "IV", "V", "VI", "VII",
                                                       "i", "ii", "iii", "iv", "v", "vi", "vii"};
   return std::find(numerals.begin(), numerals.end(), word) != numerals.end();
-}
-
-// "bVII" as "♭VII"; no numeral holds a "b".
-std::string withSigns(std::string_view word) {
-  return replaceAll(replaceAll(word, "b", "♭"), "#", "♯");
 }
 
 std::string_view withoutSigns(std::string_view word) {
@@ -39,7 +35,7 @@ std::string readProgression(const std::vector<std::string>& words) {
   const std::string text = replaceAll(replaceAll(tonelake::join(words, " "), "–", "-"), "—", "-");
   std::vector<std::string> numerals;
   for (const std::string_view typed : tonelake::splitWords(text, separators)) {
-    numerals.push_back(withSigns(typed));
+    numerals.push_back(tonelake::withMusicSigns(typed));
     if (!isNumeral(withoutSigns(numerals.back()))) {
       refuse(
           translated("{} is not a plain triad: I to VII, small letters for minor, b or # before it",

@@ -6,7 +6,6 @@
 #include "Tonelake/fingering/finger_rules.h"
 #include "Tonelake/theory/note.h"
 #include "Tonelake/theory/octave.h"
-#include "Tonelake/theory/spelling_tables.h"
 
 namespace todaychord {
 namespace {
@@ -76,11 +75,11 @@ std::vector<BarreSegment> placeBarres(const WholeNumbers& frets, const WholeNumb
 
 // The chord's own spelling of a pitch: the sharp name, else the first of its other spellings that
 // is a chord tone, else "".
-std::string spellInChord(std::size_t pitchClass, const std::vector<std::string>& tones) {
+std::string spellInChord(int pitchClass, const std::vector<std::string>& tones) {
   const auto isTone = [&](Note note) {
     return std::find(tones.begin(), tones.end(), note.rawValue()) != tones.end();
   };
-  const Note sharp = Note::fromRawValue(tonelake::notesArrayRegular[pitchClass]).value();
+  const Note sharp = Note::sharpOfPitchClass(pitchClass);
   if (isTone(sharp)) return std::string(sharp.rawValue());
   const auto others = sharp.enharmonics();
   const auto found = std::find_if(others.begin(), others.end(), isTone);
@@ -94,12 +93,11 @@ std::vector<NoteLabel> placeNoteLabels(const ChordView& view) {
   for (std::size_t i = 0; i < std::min({strings, view.position.size(), view.tuning.size()}); ++i) {
     const auto open = Note::fromRawValue(view.tuning[i]);
     if (view.position[i] == muted || !open) continue;
-    const WholeNumber pitch =
-        open->pitchClass() + tonelake::octave + view.position[i] % tonelake::octave;
+    const auto pitch = static_cast<int>(open->pitchClass() + tonelake::octave +
+                                        view.position[i] % tonelake::octave);
     const int string =
         (view.isLeftHanded ? metrics::stringCount - 1 - static_cast<int>(i) : static_cast<int>(i));
-    labels.push_back({string,
-                      spellInChord(static_cast<std::size_t>(pitch % tonelake::octave), tones),
+    labels.push_back({string, spellInChord(pitch, tones),
                       at(metrics::noteLabelX, metrics::stringPitch, string), metrics::noteLabelY});
   }
   std::sort(labels.begin(), labels.end(),

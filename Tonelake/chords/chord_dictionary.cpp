@@ -1,13 +1,12 @@
 #include "Tonelake/chords/chord_dictionary.h"
 
 #include "Tonelake/chords/chord_data_manager.h"
-#include "Tonelake/foundation/text.h"
+#include "Tonelake/theory/music_signs.h"
 
 namespace tonelake::Chords {
 
 std::optional<Chord> lookUpChord(std::string_view name) {
-  // No chord name holds a "b" that is not a flat, so reading every one as "♭" is safe.
-  return ChordDataManager::shared().chordNamed(replaceAll(replaceAll(name, "#", "♯"), "b", "♭"));
+  return ChordDataManager::shared().chordNamed(withMusicSigns(name));
 }
 
 }  // namespace tonelake::Chords

@@ -3,6 +3,7 @@
 #include "Tonelake/chords/chord_data_manager.h"
 #include "Tonelake/chords/chord_naming.h"
 #include "Tonelake/foundation/text.h"
+#include "Tonelake/theory/music_signs.h"
 
 namespace tonelake {
 namespace {
@@ -10,7 +11,7 @@ namespace {
 // The name as it stands, and as it is typed.
 void claimBothSpellings(ClaimedNames& names, const std::string& name, const ClaimedChord& chord) {
   claimName(names, name, chord);
-  claimName(names, replaceAll(replaceAll(name, "♭", "b"), "♯", "#"), chord);
+  claimName(names, withTypedSigns(name), chord);
 }
 
 void claimNamesOf(const Chord& chord, const ChordData& data, ClaimedNames& names) {

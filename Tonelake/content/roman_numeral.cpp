@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Tonelake/foundation/text.h"
+#include "Tonelake/theory/music_signs.h"
 
 namespace tonelake::RomanNumeral {
 namespace {
@@ -73,7 +74,7 @@ bool isMajor(std::string_view numeral) noexcept {
 }
 
 WholeNumber distanceOf(std::string_view token, bool inMinorKey) {
-  const std::string text = replaceAll(replaceAll(trimmed(token), "♭", "b"), "♯", "#");
+  const std::string text = withTypedSigns(trimmed(token));
   const std::size_t begin = std::min(text.find_first_not_of("b#"), text.size());
   const auto sharps = std::count(text.begin(), text.begin() + static_cast<int>(begin), '#');
   const WholeNumber change = 2 * sharps - static_cast<WholeNumber>(begin);

@@ -32,6 +32,9 @@ std::size_t countCharacters(std::string_view text) noexcept;
 /// piece of its own: "é\xFF" gives "é" and "\xFF".
 TONELAKE_API std::vector<std::string_view> splitCharacters(std::string_view text);
 
+/// U+FFFD: what takes the place of a piece that cannot be shown.
+inline constexpr std::string_view replacementCharacter = "\uFFFD";
+
 /// Whether one of those pieces may stand in a line of text: a well-formed character that is no
 /// control (U+0000 to U+001F and U+007F to U+009F).
 bool isPrintable(std::string_view character) noexcept;

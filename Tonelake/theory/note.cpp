@@ -5,6 +5,7 @@
 
 #include "Tonelake/foundation/case_table.h"
 #include "Tonelake/theory/octave.h"
+#include "Tonelake/theory/spelling_tables.h"
 
 namespace tonelake {
 namespace {
@@ -122,6 +123,10 @@ std::optional<Note> Note::fromRawValue(std::string_view rawValue) noexcept {
     if (row.rawValue == rawValue) return row.note;
   }
   return std::nullopt;
+}
+
+Note Note::sharpOfPitchClass(int pitchClass) noexcept {
+  return *fromRawValue(notesArrayRegular[static_cast<std::size_t>(pitchClass % octave)]);
 }
 
 std::span<const Note> Note::allCases() noexcept {

@@ -35,6 +35,10 @@ class TONELAKE_API Note {
   /// "b" spellings included.
   static std::optional<Note> fromRawValue(std::string_view rawValue) noexcept;
 
+  /// The natural or sharp of a pitch class counted from C: 10 gives A♯. Any whole number from 0
+  /// on; 12 is C again.
+  static Note sharpOfPitchClass(int pitchClass) noexcept;
+
   /// Every note in declaration order.
   static std::span<const Note> allCases() noexcept;
 

@@ -2,7 +2,6 @@
 
 #include "Tonelake/foundation/fatal.h"
 #include "Tonelake/theory/octave.h"
-#include "Tonelake/theory/spelling_tables.h"
 
 namespace tonelake {
 
@@ -12,9 +11,8 @@ std::optional<NoteAndOctave> getNote(WholeNumber from) {
   if (from < lowestSpelledNoteNumber) {
     stopWithProgrammingError("a MIDI note number from 0 to 11 has no octave");
   }
-  const auto number = static_cast<std::size_t>(from);
-  return NoteAndOctave{*Note::fromRawValue(notesArrayRegular[number % octave]),
-                       static_cast<std::uint8_t>(number / octave - 1)};
+  return NoteAndOctave{Note::sharpOfPitchClass(static_cast<int>(from)),
+                       static_cast<std::uint8_t>(from / octave - 1)};
 }
 
 }  // namespace tonelake

@@ -28,7 +28,7 @@ class SqliteSettingsStoreTest : public testing::Test {
   }
 
   std::unique_ptr<SqliteDatabase> openPlainly(const std::string& path) {
-    return SqliteDatabase::open(path, std::chrono::milliseconds(0), 1 << 30).database;
+    return SqliteDatabase::open(path, 1 << 30).database;
   }
 
   TemporaryFolder folder;
