@@ -132,6 +132,12 @@ char uppercase(char letter) noexcept {
   return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
 }
 
+std::string inSmallLetters(std::string_view text) {
+  std::string small(text);
+  std::transform(small.begin(), small.end(), small.begin(), lowercase);
+  return small;
+}
+
 bool isValidUtf8(std::string_view text) noexcept {
   while (!text.empty()) {
     const std::size_t length = characterLength(text);

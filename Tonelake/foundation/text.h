@@ -50,6 +50,9 @@ std::string quoted(std::string_view text);
 TONELAKE_API char lowercase(char letter) noexcept;
 TONELAKE_API char uppercase(char letter) noexcept;
 
+/// `text` with each of its bytes as lowercase makes it: "Drop C♯" is "drop c♯".
+TONELAKE_API std::string inSmallLetters(std::string_view text);
+
 /// Whether `text` is well-formed UTF-8 (no overlong forms, no surrogates, nothing above U+10FFFF).
 TONELAKE_API bool isValidUtf8(std::string_view text) noexcept;
 

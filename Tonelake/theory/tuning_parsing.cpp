@@ -45,8 +45,7 @@ constexpr std::string_view separators = " ,\t\r\n";
 
 // "Half-Step  down" and "half step down" are the same name.
 std::string comparable(std::string_view name) {
-  std::string plain = replaceAll(replaceAll(name, "-", " "), "#", "♯");
-  std::transform(plain.begin(), plain.end(), plain.begin(), lowercase);
+  const std::string plain = inSmallLetters(replaceAll(replaceAll(name, "-", " "), "#", "♯"));
   std::string words;
   for (const std::string_view word : splitWords(plain, separators)) words.append(word).append(" ");
   return words;
