@@ -22,13 +22,11 @@ std::string normalizedName(std::string_view piece) {
 
 NoteList readNoteList(std::string_view notes) {
   NoteList list;
-  const auto& indexes = noteIndexByName();
   for (const std::string_view piece : split(notes, ',')) {
     if (piece.empty()) continue;
-    const auto pitch = indexes.find(normalizedName(piece));
-    if (pitch != indexes.end()) {
-      list.pitches |= onlyPitchClass(pitch->second);
-      if (list.pieceCount == 0) list.firstPitch = pitch->second;
+    if (const auto pitch = pitchClassNamed(normalizedName(piece))) {
+      list.pitches |= onlyPitchClass(*pitch);
+      if (list.pieceCount == 0) list.firstPitch = pitch;
     }
     ++list.pieceCount;
   }

@@ -10,12 +10,6 @@
 namespace tonelake {
 namespace {
 
-// No name stands for two pitches, so the order in which spellings are tried cannot matter.
-std::optional<int> findNote(std::string_view name) {
-  const auto found = noteIndexByName().find(name);
-  return found == noteIndexByName().end() ? std::nullopt : std::optional(found->second);
-}
-
 bool isWrittenRegularly(std::string_view name) {
   return std::find(notesArrayRegular.begin(), notesArrayRegular.end(), name) !=
          notesArrayRegular.end();
@@ -25,7 +19,7 @@ std::optional<std::array<OpenString, Tuning::stringCount>> openStrings(const Tun
   std::array<OpenString, Tuning::stringCount> strings;
   if (tuning.size() != strings.size()) return std::nullopt;
   for (std::size_t i = 0; i < strings.size(); ++i) {
-    const auto note = findNote(tuning[i]);
+    const auto note = pitchClassNamed(tuning[i]);
     if (!note) return std::nullopt;
     strings[i] = {*note, isWrittenRegularly(tuning[i])};
   }
@@ -36,7 +30,7 @@ std::optional<std::array<OpenString, Tuning::stringCount>> openStrings(const Tun
 std::optional<ShapeQuery> makeQuery(std::string_view rootNote,
                                     std::span<const WholeNumber> intervals, WholeNumber limit,
                                     const TuningNames& tuning) {
-  const auto root = findNote(rootNote);
+  const auto root = pitchClassNamed(rootNote);
   const auto strings = openStrings(tuning);
   const bool hasNegative =
       std::any_of(intervals.begin(), intervals.end(), [](WholeNumber n) { return n < 0; });

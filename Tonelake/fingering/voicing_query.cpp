@@ -26,9 +26,9 @@ void setTones(const Chord& chord, const WholeNumbers& intervals, VoicingQuery& q
 bool setOpenPitches(const TuningNames& tuning, int capo, VoicingQuery& query) {
   if (tuning.size() != query.openPitches.size()) return false;
   for (std::size_t string = 0; string < tuning.size(); ++string) {
-    const auto note = noteIndexByName().find(tuning[string]);
-    if (note == noteIndexByName().end()) return false;
-    query.openPitches[string] = (note->second + capo) % octave;
+    const std::optional<int> open = pitchClassNamed(tuning[string]);
+    if (!open) return false;
+    query.openPitches[string] = (*open + capo) % octave;
   }
   return true;
 }

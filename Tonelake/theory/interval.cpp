@@ -16,10 +16,10 @@ struct Root {
 
 // Every name in the tables is one ASCII letter and its signs.
 std::optional<Root> findRoot(std::string_view note) {
-  const auto index = noteIndexByName().find(note);
-  if (index == noteIndexByName().end()) return std::nullopt;
+  const std::optional<int> pitchClass = pitchClassNamed(note);
+  if (!pitchClass) return std::nullopt;
   const auto letter = std::find(noteLetters.begin(), noteLetters.end(), note.substr(0, 1));
-  return Root{index->second, letter - noteLetters.begin()};
+  return Root{*pitchClass, letter - noteLetters.begin()};
 }
 
 bool isInsideTables(const Root& root, WholeNumber distance, WholeNumber degree) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string_view>
 #include <unordered_map>
 
@@ -52,8 +53,11 @@ inline constexpr std::array<std::string_view, 21> noteLetters{"C", "D", "E", "F"
                                                               "C", "D", "E", "F", "G", "A", "B",
                                                               "C", "D", "E", "F", "G", "A", "B"};
 
-/// Pitch class (0 to 11, C is 0) of every name in the five tables: "C♭" is 11, "B♯" is 0. Made on
-/// first use; safe to read from any thread.
+/// Pitch class (0 to 11, C is 0) of every name in the five tables, which are those of all notes:
+/// "C♭" is 11, "B♯" is 0. Made on first use; safe to read from any thread.
 TONELAKE_API const std::unordered_map<std::string_view, int>& noteIndexByName();
+
+/// The same of one name; nothing for any other text.
+TONELAKE_API std::optional<int> pitchClassNamed(std::string_view name);
 
 }  // namespace tonelake
