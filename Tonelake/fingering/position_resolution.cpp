@@ -7,20 +7,28 @@
 
 #include "Tonelake/fingering/chord_positions.h"
 #include "Tonelake/platform/platform.h"
+#include "Tonelake/theory/spelling_tables.h"
 
 namespace tonelake {
 namespace {
 
 using Positions = std::vector<ChordPosition>;
 
-// Two threads that miss at once both generate, and the later list stays: they are the same.
+// The key of the cache runs the names of the strings together: only those of a tuning may ask, or
+// {"EADGBE"} would get the shapes of the standard one.
+bool isTuning(const TuningNames& names) {
+  return names.size() == Tuning::stringCount &&
+         std::all_of(names.begin(), names.end(),
+                     [](const std::string& name) { return pitchClassNamed(name).has_value(); });
+}
+
+// Two threads that miss at once both generate, and the later list stays: they are the same. An
+// unknown chord has no positions, which is not worth a place.
 Positions cachedPositions(const PositionRequest& request, const ChordEngine& engine,
                           ChordPositionsCache& cache) {
   const std::string key = chordPositionsCacheKey(request.chord, request.tuning);
   if (auto cached = cache.get(key)) return *std::move(cached);
   Positions positions = Chords::getChordPositions(request.chord, -1, request.tuning, engine);
-  // The key runs the names of the strings together: {"EADGBE"}, which is no tuning, has that of the
-  // standard one. Nothing is all that it gives, and that is not kept.
   if (!positions.empty()) cache.set(positions, key);
   return positions;
 }
@@ -71,7 +79,7 @@ std::optional<ChordPosition> choosePosition(const PositionRequest& request,
                                             const ChordEngine& engine, ChordPositionsCache& cache,
                                             const std::stop_token& stop) {
   const Positions positions =
-      request.usesChordPositionsCache
+      request.usesChordPositionsCache && isTuning(request.tuning)
           ? cachedPositions(request, engine, cache)
           : Chords::getChordPositions(request.chord, -1, request.tuning, engine);
   if (stop.stop_requested() || positions.empty()) return std::nullopt;

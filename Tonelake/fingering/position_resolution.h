@@ -20,7 +20,7 @@ struct PositionRequest {
   WholeNumbers
       selectedPosition{};         ///< what the user last chose: found again, or the first position
   WholeNumbers presetPosition{};  ///< found again, or the nearest; all muted counts as absent
-  bool usesChordPositionsCache = false;   ///< asks and fills ChordPositionsCache
+  bool usesChordPositionsCache = false;  ///< asks and fills ChordPositionsCache, if `tuning` is one
   TuningNames tuning = Tuning::standard;  ///< six names, lowest first
 };
 

@@ -79,8 +79,10 @@ TEST(PositionResolution, CachesTheFullListUnderItsKey) {
   const Platform platform;
   const ChordEngine engine(platform);
   ChordPositionsCache cache;
-  choosePosition({cMajor, {}, {}, true, {"EADGBE"}}, engine, cache);
+  const PositionRequest withoutTuning{cMajor, {}, {}, true, {"EADGBE"}};
+  EXPECT_EQ(choosePosition(withoutTuning, engine, cache), std::nullopt);
   choosePosition({cMajor, {}, {}, true}, engine, cache);
+  EXPECT_EQ(choosePosition(withoutTuning, engine, cache), std::nullopt);
   EXPECT_EQ(chordPositionsCacheKey(cMajor, Tuning::standard), "C-major-0-EADGBE");
   EXPECT_EQ(cache.get("C-major-0-EADGBE"), Chords::getChordPositions(cMajor, -1, Tuning::standard));
   cache.set({}, "C-major-0-EADGBE");
