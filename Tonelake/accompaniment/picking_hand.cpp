@@ -96,8 +96,11 @@ HandMotion PickingHand::play(const ArpeggioStep& step, const ChordShape& shape) 
   if (sounding.empty()) return motion;
   const Strings fingers = fingerStrings(sounding);
   const auto fingerString = [&fingers](int finger) {
-    return fingers[static_cast<std::size_t>(finger) % fingers.size()];
+    return fingers[static_cast<std::size_t>(finger)];
   };
+  const int count = static_cast<int>(fingers.size());
+  // The chord may have changed to one of fewer strings.
+  finger_ = std::min(finger_, count - 1);
   const bool isStroke = brushOverStrings(motion, step, sounding);
   for (const ArpeggioNote& note : step) {
     switch (note.arpeggioDirection) {
@@ -106,13 +109,13 @@ HandMotion PickingHand::play(const ArpeggioStep& step, const ChordShape& shape) 
         pluck(motion, sounding.front(), note);
         break;
       case ArpeggioDirection::d:
-        if (!isStroke) pluck(motion, fingerString(nextDown()), note);
+        if (!isStroke) pluck(motion, fingerString(nextDown(count)), note);
         break;
       case ArpeggioDirection::b:
         pluck(motion, alternateBass(sounding, shape), note);
         break;
       case ArpeggioDirection::u:
-        if (!isStroke) pluck(motion, fingerString(nextUp()), note);
+        if (!isStroke) pluck(motion, fingerString(nextUp(count)), note);
         break;
       case ArpeggioDirection::r:
         motion.silencesStrings = true;
@@ -125,13 +128,13 @@ HandMotion PickingHand::play(const ArpeggioStep& step, const ChordShape& shape) 
   return motion;
 }
 
-int PickingHand::nextDown() {
-  finger_ = (finger_ + 1) % fingerCount;
+int PickingHand::nextDown(int count) {
+  finger_ = (finger_ + 1) % count;
   return finger_;
 }
 
-int PickingHand::nextUp() {
-  finger_ = (finger_ <= 0 ? fingerCount : finger_) - 1;
+int PickingHand::nextUp(int count) {
+  finger_ = (finger_ <= 0 ? count : finger_) - 1;
   return finger_;
 }
 

@@ -32,10 +32,11 @@ class PickingHand {
   HandMotion play(const ArpeggioStep& step, const ChordShape& shape);
 
  private:
-  int nextDown();
-  int nextUp();
+  // The next of `count` fingers on so many strings.
+  int nextDown(int count);
+  int nextUp(int count);
 
-  int finger_ = -1;  // of three: 0 on the lowest of their strings, -1 when none has plucked yet
+  int finger_ = -1;  // 0 on the lowest of their strings, -1 when none has plucked yet
 };
 
 }  // namespace tonelake

@@ -71,7 +71,7 @@ TEST(Accompaniment, PlucksLikeAGuitarist) {
       {{Note::G, "major", 0}, {3, 2, 0, 0, 0, 3}, "t b d+iii", "0 2 012345 "},
       {e, {0, 2, 2, 0, 0, 0}, "t b", "0 1 "},
       {{Note::D, "major", 0}, {-1, -1, 0, 2, 3, 2}, "t b b", "2 3 3 "},
-      {power, {0, 2, -1, -1, -1, -1}, "t b d d d iii+u", "0 1 0 1 0 10 "},
+      {power, {0, 2, -1, -1, -1, -1}, "u t b d d d d u iii+u", "1 0 1 0 1 0 1 0 10 "},
       {power, {-1, -1, -1, -1, -1, -1}, "t", " "},
   };
   for (const Row& row : rows) {
@@ -90,6 +90,12 @@ TEST(Accompaniment, PlucksLikeAGuitarist) {
     }
     EXPECT_EQ(strings, row.strings) << row.sequence;
   }
+  // The hand has left the highest of three strings when it finds but one.
+  PickingHand hand;
+  for (const ArpeggioStep& step : steps("d d d")) hand.play(step, openC);
+  const HandMotion motion = hand.play(steps("u")[0], {e, {Frets{0, -1, -1, -1, -1, -1}, {}}});
+  ASSERT_EQ(motion.plucks.size(), 1U);
+  EXPECT_EQ(motion.plucks[0].string, 0);
 }
 
 // String, start and end of each note.
