@@ -5,6 +5,7 @@
 #include <initializer_list>
 
 #include "Tonelake/chords/chord_data_manager.h"
+#include "Tonelake/chords/variant.h"
 #include "Tonelake/theory/octave.h"
 
 namespace tonelake {
@@ -27,8 +28,8 @@ ChordPillars findPillars(const Chord& chord) {
   const auto pitchClass = [root](WholeNumber semitones) {
     return static_cast<int>((root + semitones) % octave);
   };
-  const auto variant = static_cast<std::size_t>(chord.variant) % data->notes.size();
-  return {pitchClass(data->notes[variant]), pitchClass(firstOf(data->notes, {4, 3, 5, 2})),
+  const std::size_t bass = bassTonePlace(chord.variant, data->notes.size());
+  return {pitchClass(data->notes[bass]), pitchClass(firstOf(data->notes, {4, 3, 5, 2})),
           pitchClass(firstOf(data->notes, {7, 6, 8}))};
 }
 

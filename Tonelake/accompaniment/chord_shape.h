@@ -22,7 +22,8 @@ struct ChordPillars {
   int fifth = 0;  ///< perfect, else diminished or augmented; the root where there is none
 };
 
-/// All three are tones of the chord; of an unknown chord type all are the root.
+/// All three are tones of the chord; of an unknown chord type all are the root. The variant counts
+/// modulo the number of tones, -1 being the last.
 TONELAKE_API ChordPillars findPillars(const Chord& chord);
 
 }  // namespace tonelake

@@ -1,22 +1,14 @@
 #include "Tonelake/chords/chord_intervals.h"
 
 #include <algorithm>
+#include <cstddef>
 
 #include "Tonelake/chords/chord_data_manager.h"
+#include "Tonelake/chords/variant.h"
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/theory/interval.h"
 
 namespace tonelake::Chords {
-namespace {
-
-// Rotates left by `variant`, counted modulo the size as a true remainder: -1 is the last tone.
-void startAtVariant(std::vector<std::string>& names, WholeNumber variant) {
-  if (names.empty()) return;
-  const auto size = static_cast<WholeNumber>(names.size());
-  std::rotate(names.begin(), names.begin() + ((variant % size) + size) % size, names.end());
-}
-
-}  // namespace
 
 std::vector<std::string> getIntervalsOfChord(const Chord& chord) {
   const ChordData* data = getChordData(chord.chordType);
@@ -25,7 +17,8 @@ std::vector<std::string> getIntervalsOfChord(const Chord& chord) {
   for (const std::string_view token : split(data->formula, '-')) {
     names.push_back(Interval::getIntervalFromAlteredScaleDegree(token));
   }
-  startAtVariant(names, chord.variant);
+  const std::size_t bass = bassTonePlace(chord.variant, names.size());
+  std::rotate(names.begin(), names.begin() + static_cast<std::ptrdiff_t>(bass), names.end());
   return names;
 }
 

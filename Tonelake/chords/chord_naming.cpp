@@ -4,6 +4,7 @@
 
 #include "Tonelake/chords/chord_data_manager.h"
 #include "Tonelake/chords/chord_spelling.h"
+#include "Tonelake/chords/variant.h"
 #include "Tonelake/foundation/fatal.h"
 #include "Tonelake/foundation/text.h"
 
@@ -20,7 +21,7 @@ bool contains(const std::vector<std::string>& list, std::string_view text) {
 
 // "" for the root position, else "/" and the tone in the bass.
 std::string bassSuffix(const NamedChord& chord) {
-  if (chord.variant < 0 || chord.variant >= static_cast<WholeNumber>(chord.tones.size())) {
+  if (!hasVariant(chord.variant, chord.tones.size())) {
     stopWithProgrammingError("a chord has no such variant");
   }
   return chord.variant == 0 ? "" : "/" + chord.tones[static_cast<std::size_t>(chord.variant)];
@@ -60,8 +61,7 @@ std::vector<std::string> typeNames(const ChordData& data) {
 
 // The tone in the bass, or "" in root position and for a variant that the chord does not have.
 std::string bassTone(const NamedChord& chord) {
-  const bool hasBass =
-      chord.variant >= 1 && chord.variant < static_cast<WholeNumber>(chord.tones.size());
+  const bool hasBass = chord.variant != 0 && hasVariant(chord.variant, chord.tones.size());
   return hasBass ? chord.tones[static_cast<std::size_t>(chord.variant)] : "";
 }
 

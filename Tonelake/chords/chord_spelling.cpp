@@ -2,6 +2,7 @@
 
 #include "Tonelake/chords/chord_data_manager.h"
 #include "Tonelake/chords/formula_degree.h"
+#include "Tonelake/chords/variant.h"
 #include "Tonelake/foundation/fatal.h"
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/theory/interval.h"
@@ -30,8 +31,7 @@ std::vector<std::string> getNotesOfChord(const Chord& chord) {
 
 bool isShowable(const Chord& chord) {
   const ChordData* data = getChordData(chord.chordType);
-  return data != nullptr && chord.variant >= 0 &&
-         chord.variant < static_cast<WholeNumber>(data->notes.size());
+  return data != nullptr && hasVariant(chord.variant, data->notes.size());
 }
 
 }  // namespace Chords

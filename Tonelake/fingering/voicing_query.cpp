@@ -1,6 +1,7 @@
 #include "Tonelake/fingering/voicing_query.h"
 
 #include "Tonelake/chords/chord_data_manager.h"
+#include "Tonelake/chords/variant.h"
 #include "Tonelake/fingering/required_tones.h"
 #include "Tonelake/fingering/voicing.h"
 #include "Tonelake/theory/spelling_tables.h"
@@ -39,8 +40,7 @@ std::optional<VoicingQuery> makeVoicingQuery(const Chord& chord, const TuningNam
                                              int capo) {
   const ChordData* data = Chords::getChordData(chord.chordType);
   if (data == nullptr || capo < 0 || capo > highestCapo) return std::nullopt;
-  const auto tones = static_cast<WholeNumber>(data->notes.size());
-  if (chord.variant < 0 || chord.variant >= tones) return std::nullopt;
+  if (!hasVariant(chord.variant, data->notes.size())) return std::nullopt;
   VoicingQuery query;
   if (!setOpenPitches(tuning, capo, query)) return std::nullopt;
   setTones(chord, data->notes, query);

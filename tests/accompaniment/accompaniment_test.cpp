@@ -240,6 +240,7 @@ TEST(Accompaniment, BringsTheBassIntoItsRange) {
     EXPECT_EQ(notes, row.notes) << row.chord;
     EXPECT_EQ(performance.bass.front().velocity, 127);
   }
+  EXPECT_EQ(findPillars({Note::C, "major", -1}).bass, 7) << "the last tone, G";
 }
 
 }  // namespace
