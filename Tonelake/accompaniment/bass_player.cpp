@@ -2,8 +2,8 @@
 
 #include "Tonelake/accompaniment/pattern_repetition.h"
 #include "Tonelake/accompaniment/players.h"
-#include "Tonelake/accompaniment/standard_pitches.h"
 #include "Tonelake/theory/octave.h"
+#include "Tonelake/theory/open_strings.h"
 
 namespace tonelake {
 namespace {
@@ -11,12 +11,6 @@ namespace {
 // A bass note from here up, the B on the second fret of the second string, has its fifth below
 // where the instrument has it there.
 constexpr int highBassNote = 35;
-
-// The lowest note of a pitch class that lies above `note`.
-int liftAbove(int note, int pitchClass) {
-  const int distance = (pitchClass - note % octave + octave) % octave;
-  return note + (distance == 0 ? octave : distance);
-}
 
 // The MIDI number; only for pitches that sound.
 int bassNoteNumber(BassPitch pitch, const Chord& chord) {

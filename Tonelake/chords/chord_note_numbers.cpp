@@ -1,26 +1,18 @@
 #include "Tonelake/chords/chord_note_numbers.h"
 
-#include <array>
+#include <cstddef>
 #include <utility>
 
 #include "Tonelake/fingering/chord_positions.h"  // naming asks for a fingering: see CONTRIBUTING
 #include "Tonelake/foundation/fatal.h"
+#include "Tonelake/theory/frets.h"
 #include "Tonelake/theory/octave.h"
-#include "Tonelake/theory/tuning.h"
+#include "Tonelake/theory/open_strings.h"
 
 namespace tonelake::Chords {
 namespace {
 
-// Open strings E A D G B E, an octave low.
-constexpr std::array<WholeNumber, Tuning::stringCount> openStrings{28, 33, 38, 43, 47, 52};
-
 constexpr WholeNumber pianoNumberOfE = 40;
-
-// `candidate` lifted by whole octaves until it lies above `last`.
-WholeNumber liftAbove(WholeNumber last, WholeNumber candidate) {
-  if (candidate > last) return candidate;
-  return candidate + ((last - candidate) / octave + 1) * octave;
-}
 
 }  // namespace
 
@@ -34,9 +26,9 @@ std::optional<WholeNumbers> findNoteNumbersForChord(const Chord& chord) {
   const auto positions = getChordPositions(chord, 1, Tuning::standard);
   if (positions.empty()) return std::nullopt;
   WholeNumbers numbers;
-  for (std::size_t i = 0; i < openStrings.size(); ++i) {
+  for (std::size_t i = 0; i < openGuitarStrings.size(); ++i) {
     const int fret = positions.front().position[i];
-    if (fret != -1) numbers.push_back(openStrings[i] + fret);
+    if (fret != mutedString) numbers.push_back(openGuitarStrings[i] - octave + fret);
   }
   return numbers;
 }
@@ -45,6 +37,9 @@ WholeNumbers getChordPianoNotes(Note root, std::span<const WholeNumber> formula)
   const WholeNumber base = pianoNumberOfE + root.semitoneOffset();
   WholeNumbers numbers;
   for (const WholeNumber offset : formula) {
+    if (offset < -farthestPianoTone || offset > farthestPianoTone) {
+      stopWithProgrammingError("a tone of a piano voicing lies too far from its root");
+    }
     const WholeNumber candidate = base + offset;
     numbers.push_back(numbers.empty() ? candidate : liftAbove(numbers.back(), candidate));
   }

@@ -23,7 +23,10 @@ TEST(ChordNoteNumbers, StackPianoVoicingsUpwards) {
   EXPECT_THAT(notes(Note::E, {0, 7, 4, 0}), ElementsAre(40, 47, 56, 64));
   EXPECT_THAT(notes(Note::Dds, {0}), ElementsAre(52));
   EXPECT_THAT(notes(Note::Ds, {12, 0, -24}), ElementsAre(63, 75, 87));
+  EXPECT_THAT(notes(Note::C, {Chords::farthestPianoTone}),
+              ElementsAre(48 + Chords::farthestPianoTone));
   EXPECT_THAT(notes(Note::C, {}), ::testing::IsEmpty());
+  EXPECT_DEATH(notes(Note::C, {INT64_MAX}), "too far");
 }
 
 }  // namespace

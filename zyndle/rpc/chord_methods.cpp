@@ -77,8 +77,7 @@ json::Value getNoteNumbersForChord(const json::Node& parameters, MethodContext&)
 }
 
 json::Value getChordPianoNotes(const json::Node& parameters, MethodContext&) {
-  // Far outside every instrument, and far from where sums of whole numbers end.
-  constexpr WholeNumber farthest = std::int64_t{1} << 31U;
+  constexpr WholeNumber farthest = Chords::farthestPianoTone;
   const tonelake::Note root = tonelake::decodeNote(parameters.member("root"));
   const WholeNumbers formula = json::decodeList(
       parameters.member("formula"),
