@@ -124,7 +124,9 @@ std::size_t Node::size() const {
 }
 
 Node Node::element(std::size_t index) const {
-  return Node((*value_)[index], path_ + "[" + std::to_string(index) + "]");
+  std::string path = path_ + "[" + std::to_string(index) + "]";
+  if (index >= size()) Node(*value_, std::move(path)).fail("missing");
+  return Node((*value_)[index], std::move(path));
 }
 
 Node Node::member(std::string_view key) const {

@@ -59,8 +59,8 @@ class TONELAKE_API Node {
   bool boolean() const;
   double number() const;
   WholeNumber wholeNumber(WholeNumber lowest = INT64_MIN, WholeNumber highest = INT64_MAX) const;
-  std::size_t size() const;  ///< Elements of a list.
-  Node element(std::size_t index) const;
+  std::size_t size() const;               ///< Elements of a list.
+  Node element(std::size_t index) const;  ///< Throws when a list has no such element.
 
   /// A key of an object; throws when the value is no object or has no such key.
   Node member(std::string_view key) const;

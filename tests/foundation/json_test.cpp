@@ -76,7 +76,8 @@ TEST(Json, NamesThePlaceOfAFault) {
   EXPECT_EQ(problemOf([&] { node.member("chords").element(0).member("type"); }),
             "chords[0].type: missing");
   EXPECT_EQ(problemOf([&] { node.member("chords").member("root"); }), "chords: expected an object");
-  EXPECT_EQ(problemOf([&] { node.size(); }), "expected a list");
+  EXPECT_EQ(problemOf([&] { node.member("chords").element(2); }), "chords[2]: missing");
+  EXPECT_EQ(problemOf([&] { node.element(0); }), "expected a list");
 }
 
 }  // namespace
