@@ -1,27 +1,39 @@
 #include "Tonelake/chords/inversion.h"
 
+#include <array>
+
+#include "Tonelake/foundation/case_table.h"
 #include "Tonelake/platform/platform.h"
 
 namespace tonelake {
 namespace {
 
-// Raw values in case order. They are translation keys: do not change.
-constexpr std::array<std::string_view, 8> rawValues{
-    "inversion.root_position", "inversion.first", "inversion.second", "inversion.third",
-    "inversion.fourth",        "inversion.fifth", "inversion.sixth",  "inversion.seventh"};
+struct InversionName {
+  Inversion::Case inversion;
+  std::string_view rawValue;
+};
 
-constexpr std::array<Inversion, rawValues.size()> cases{
-    Inversion::rootPosition,   Inversion::firstInversion,  Inversion::secondInversion,
-    Inversion::thirdInversion, Inversion::fourthInversion, Inversion::fifthInversion,
-    Inversion::sixthInversion, Inversion::seventhInversion};
+// Raw values are translation keys: do not change.
+// clang-format off
+constexpr std::array<InversionName, 8> names{{
+    {Inversion::rootPosition,     "inversion.root_position"},
+    {Inversion::firstInversion,   "inversion.first"},
+    {Inversion::secondInversion,  "inversion.second"},
+    {Inversion::thirdInversion,   "inversion.third"},
+    {Inversion::fourthInversion,  "inversion.fourth"},
+    {Inversion::fifthInversion,   "inversion.fifth"},
+    {Inversion::sixthInversion,   "inversion.sixth"},
+    {Inversion::seventhInversion, "inversion.seventh"},
+}};
+// clang-format on
+
+constexpr auto cases = listCases<Inversion>(names, &InversionName::inversion);
+static_assert(followsCaseOrder(cases), "row i names case i");
 
 }  // namespace
 
 std::optional<Inversion> Inversion::fromRawValue(std::string_view rawValue) noexcept {
-  for (const Inversion inversion : cases) {
-    if (inversion.rawValue() == rawValue) return inversion;
-  }
-  return std::nullopt;
+  return findCase<Inversion>(names, &InversionName::inversion, rawValue);
 }
 
 std::span<const Inversion> Inversion::allCases() noexcept {
@@ -29,7 +41,7 @@ std::span<const Inversion> Inversion::allCases() noexcept {
 }
 
 std::string_view Inversion::rawValue() const noexcept {
-  return rawValues[case_];
+  return names[case_].rawValue;
 }
 
 std::string Inversion::localizedName() const {

@@ -1,6 +1,5 @@
 #include "Tonelake/content/chord_list_category.h"
 
-#include <algorithm>
 #include <array>
 
 #include "Tonelake/foundation/case_table.h"
@@ -43,11 +42,7 @@ static_assert(followsCaseOrder(cases), "row i names case i");
 
 std::optional<ChordListCategory> ChordListCategory::fromRawValue(
     std::string_view rawValue) noexcept {
-  const auto found = std::find_if(names.begin(), names.end(), [&](const CategoryName& name) {
-    return name.rawValue == rawValue;
-  });
-  if (found == names.end()) return std::nullopt;
-  return found->category;
+  return findCase<ChordListCategory>(names, &CategoryName::category, rawValue);
 }
 
 std::span<const ChordListCategory> ChordListCategory::allCases() noexcept {

@@ -1,6 +1,5 @@
 #include "Tonelake/content/music_styles.h"
 
-#include <algorithm>
 #include <array>
 
 #include "Tonelake/foundation/case_table.h"
@@ -50,11 +49,7 @@ static_assert(followsCaseOrder(cases), "row i names case i");
 }  // namespace
 
 std::optional<MusicStyles> MusicStyles::fromRawValue(std::string_view rawValue) noexcept {
-  const auto found = std::find_if(names.begin(), names.end(), [&](const StyleNames& name) {
-    return name.rawValue == rawValue;
-  });
-  if (found == names.end()) return std::nullopt;
-  return found->style;
+  return findCase<MusicStyles>(names, &StyleNames::style, rawValue);
 }
 
 std::span<const MusicStyles> MusicStyles::allCases() noexcept {

@@ -119,10 +119,7 @@ constexpr auto enharmonicNotes = []<std::size_t... i>(std::index_sequence<i...>)
 }  // namespace
 
 std::optional<Note> Note::fromRawValue(std::string_view rawValue) noexcept {
-  for (const NoteRow& row : noteTable) {
-    if (row.rawValue == rawValue) return row.note;
-  }
-  return std::nullopt;
+  return findCase<Note>(noteTable, &NoteRow::note, rawValue);
 }
 
 Note Note::sharpOfPitchClass(int pitchClass) noexcept {

@@ -2,30 +2,33 @@
 
 #include <array>
 
+#include "Tonelake/foundation/case_table.h"
 #include "Tonelake/platform/platform.h"
 
 namespace tonelake {
 namespace {
 
 struct CategoryNames {
+  ChordCategory::Case category;
   std::string_view rawValue;
   std::string_view titleKey;
 };
 
-constexpr std::array<ChordCategory, 3> cases{ChordCategory::beginner, ChordCategory::advanced,
-                                             ChordCategory::jazz};
+// clang-format off
+constexpr std::array<CategoryNames, 3> names{{
+    {ChordCategory::beginner, "beginner", "Beginner"},
+    {ChordCategory::advanced, "advanced", "Advanced"},
+    {ChordCategory::jazz,     "jazz",     "Jazz"},
+}};
+// clang-format on
 
-// In case order.
-constexpr std::array<CategoryNames, cases.size()> names{
-    {{"beginner", "Beginner"}, {"advanced", "Advanced"}, {"jazz", "Jazz"}}};
+constexpr auto cases = listCases<ChordCategory>(names, &CategoryNames::category);
+static_assert(followsCaseOrder(cases), "row i names case i");
 
 }  // namespace
 
 std::optional<ChordCategory> ChordCategory::fromRawValue(std::string_view rawValue) noexcept {
-  for (const ChordCategory category : cases) {
-    if (category.rawValue() == rawValue) return category;
-  }
-  return std::nullopt;
+  return findCase<ChordCategory>(names, &CategoryNames::category, rawValue);
 }
 
 std::span<const ChordCategory> ChordCategory::allCases() noexcept {
