@@ -4,6 +4,7 @@
 #include <array>
 
 #include "Tonelake/chords/chord_types_json.h"
+#include "Tonelake/chords/name_claims.h"
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/platform/embedded_resources.h"
 #include "Tonelake/platform/platform.h"

@@ -9,8 +9,6 @@
 
 namespace tonelake {
 
-class ChordDataManager;
-
 /// A chord that claims a name.
 struct ClaimedChord {
   Chord chord;  ///< the claimant
@@ -21,12 +19,5 @@ struct ClaimedChord {
 
 /// Chords by the names that they hold.
 using ClaimedNames = std::unordered_map<std::string, ClaimedChord>;
-
-/// Lets `chord` have `name`, unless a chord that came earlier has a claim as good.
-void claimName(ClaimedNames& names, const std::string& name, const ClaimedChord& chord);
-
-/// Every name of every type and variant on `root`, as it stands and with "#" and "b". All of them
-/// begin with the root, so that a name is found without those of other roots: some 1,600 of 27,000.
-ClaimedNames namesOnRoot(const ChordDataManager& manager, Note root);
 
 }  // namespace tonelake

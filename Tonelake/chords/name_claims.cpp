@@ -1,4 +1,4 @@
-#include "Tonelake/chords/claimed_names.h"
+#include "Tonelake/chords/name_claims.h"
 
 #include "Tonelake/chords/chord_data_manager.h"
 #include "Tonelake/chords/chord_naming.h"
