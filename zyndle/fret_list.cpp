@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "Tonelake/fingering/voicing.h"
 #include "Tonelake/foundation/text.h"
 #include "zyndle/command_error.h"
 #include "zyndle/translation.h"
@@ -14,8 +15,6 @@ namespace zyndle {
 namespace {
 
 using tonelake::Frets;
-
-constexpr int highestFret = 24;
 
 // "x32010" is one fret a character. As soon as anything stands between frets, they are words, and
 // a hyphen only then parts them when nothing else does, so that "-1 3 2 0 1 0" is read too.
@@ -34,7 +33,7 @@ std::optional<std::int8_t> parseFret(std::string_view word) {
   int fret = -1;
   const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), fret);
   const bool isNumber = error == std::errc() && end == word.data() + word.size();
-  if (!isNumber || fret < 0 || fret > highestFret) return std::nullopt;
+  if (!isNumber || fret < 0 || fret > tonelake::Voicings::highestFretOfAll) return std::nullopt;
   return static_cast<std::int8_t>(fret);
 }
 

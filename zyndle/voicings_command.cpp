@@ -66,11 +66,11 @@ struct ShownVoicings {
 
 VoicingOptions readOptions(const CommandOptions& options, const Instrument& instrument) {
   const VoicingOptions usual;
-  constexpr WholeNumber highestFret = 24;
   constexpr WholeNumber mostInnerMutes = 4;
   VoicingOptions read;
-  read.highestFret = static_cast<int>(
-      readNumber("--max-fret", options.highestFret, usual.highestFret, 0, highestFret));
+  read.highestFret =
+      static_cast<int>(readNumber("--max-fret", options.highestFret, usual.highestFret, 0,
+                                  tonelake::Voicings::highestFretOfAll));
   read.innerMutes = static_cast<int>(
       readNumber("--inner-mutes", options.innerMutes, usual.innerMutes, 0, mostInnerMutes));
   read.openStringsAboveFifthFret = options.openStringsAboveFifthFret;

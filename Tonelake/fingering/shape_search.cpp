@@ -185,7 +185,7 @@ class ShapeSearch {
 
   bool isChordNote(int pitch) const { return (query_.chordNotes & onlyPitchClass(pitch)) != 0; }
 
-  bool holdsRequired(PitchClassSet notes) const { return (query_.requiredNotes & ~notes) == 0; }
+  bool holdsRequired(PitchClassSet notes) const { return includesAll(notes, query_.requiredNotes); }
 
   // Extends a combination by each candidate of `string` in turn, and judges it once the strings
   // below cannot add a deeper bass: whatever they take, the bass rule mutes it.

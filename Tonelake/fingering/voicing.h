@@ -23,13 +23,17 @@ struct Voicing {
   friend bool operator==(const Voicing&, const Voicing&) = default;
 };
 
-inline constexpr int highestCapo = 12;  ///< the last fret a capo may be on
+inline constexpr int highestCapo = 12;       ///< the last fret a capo may be on
+inline constexpr int highestFretOfAll = 24;  ///< the last fret that any guitar is taken to have
 
 /// What to look for.
 struct VoicingOptions {
   WholeNumber limit = -1;  ///< at most so many voicings, the best; any negative number gives all
-  int highestFret = 15;    ///< highest fret to press, counted from the capo; above 24 means 24
-  int innerMutes = 1;      ///< muted strings allowed between sounding ones
+  /// Highest fret to press, counted from the capo; above highestFretOfAll means that one. A
+  /// negative number gives no voicings.
+  int highestFret = 15;
+  /// Muted strings allowed between sounding ones. A negative number gives no voicings.
+  int innerMutes = 1;
   /// Whether open strings may ring while the whole hand is above the fifth fret.
   bool openStringsAboveFifthFret = false;
   /// The fret of the capo, 0 (none) to highestCapo. Frets count from it, and open strings sound

@@ -32,7 +32,7 @@ constexpr int movedFinger  =   8;  // each fret, within the hand, and each strin
 constexpr int commonFinger = -15;  // a finger that stays on its string and fret
 // clang-format on
 
-// Where the hand and each finger is. The highest fret of all is 24.
+// Where the hand and each finger is.
 struct Grip {
   struct Finger {
     int fret = 0;
@@ -42,7 +42,7 @@ struct Grip {
   // Where the index finger's own fret may be while the hand reaches all pressed frets. A barre of
   // the index finger leaves no choice.
   int lowestPlace = 1;
-  int highestPlace = 24;
+  int highestPlace = highestFretOfAll;
   std::array<Finger, littleFinger> fingers{};
 
   Grip() = default;

@@ -25,7 +25,6 @@ namespace tonelake::Voicings {
 namespace {
 
 constexpr int stringCount = static_cast<int>(Tuning::stringCount);
-constexpr int highestFretOfAll = 24;
 constexpr int highestHandWithOpenStrings = 5;
 
 // A fret that sounds a chord note.
@@ -104,8 +103,9 @@ class VoicingSearch {
 
   // Whether the strings from `string` upwards could supply what is missing.
   bool canBeCompleted(const Partial& partial, std::size_t string) const {
-    const bool lacksNote = (query_.requiredNotes & ~(partial.notes | reachable_[string])) != 0;
-    return !lacksNote && (partial.pressesLowest || lowestWithin_[string]);
+    const auto notes = static_cast<PitchClassSet>(partial.notes | reachable_[string]);
+    return includesAll(notes, query_.requiredNotes) &&
+           (partial.pressesLowest || lowestWithin_[string]);
   }
 
   // Lets `string`, or a higher one, be the lowest to sound.
