@@ -14,10 +14,10 @@
 #include "Tonelake/accompaniment/picking_hand.h"
 #include "Tonelake/accompaniment/standard_pitches.h"
 #include "Tonelake/chords/chord_data_manager.h"
-#include "Tonelake/chords/chord_dictionary.h"
 #include "Tonelake/fingering/voicings.h"
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/theory/octave.h"
+#include "tests/support/named_chord.h"
 
 namespace tonelake {
 namespace {
@@ -178,7 +178,7 @@ TEST(Accompaniment, PlaysEveryBuiltInPatternCleanly) {
   const PatternLibrary& library = builtInPatterns();
   std::vector<Chord> chords;
   for (const char* name : {"C", "G/B", "Bm7♭5", "A♭sus2"}) {
-    chords.push_back(Chords::lookUpChord(name).value());
+    chords.push_back(testing::chordNamed(name));
   }
   const auto voicings = Voicings::connectVoicings(chords, Tuning::standard);
   std::vector<ChordShape> shapes;
@@ -191,8 +191,8 @@ TEST(Accompaniment, PlaysEveryBuiltInPatternCleanly) {
     checkNotes(perform(accompaniment).guitar, accompaniment);
     for (const BassPattern& bass : library.basses.bassPatterns) {
       SCOPED_TRACE(bass.name);
-      accompaniment.bass = bass;
       if (bass.timeSignature != sequence.timeSignature) continue;
+      accompaniment.bass = bass;
       checkNotes(perform(accompaniment).bass, accompaniment);
     }
     for (const DrumPattern& drums : library.drums.drumPatterns) {
@@ -225,7 +225,7 @@ TEST(Accompaniment, BringsTheBassIntoItsRange) {
                       {"Dsus4", {38, 33, 50, 43}}, {"G5", {31, 38, 43, 43}}};
   for (const Row& row : rows) {
     Accompaniment accompaniment =
-        piece({{Chords::lookUpChord(row.chord).value(), openC.position}}, steps("t"), 1);
+        piece({{testing::chordNamed(row.chord), openC.position}}, steps("t"), 1);
     accompaniment.bass = BassPattern{"", "", {}, TimeSignature::ts_44};
     for (const BassPitch pitch :
          {BassPitch::root, BassPitch::fifth, BassPitch::octave, BassPitch::third}) {

@@ -9,6 +9,7 @@
 #include "Tonelake/content/chord_progression_json.h"
 #include "Tonelake/foundation/text.h"
 #include "tests/support/printing.h"
+#include "tests/support/shouting.h"
 
 namespace tonelake::ChordProgressions {
 namespace {
@@ -167,12 +168,8 @@ TEST(ChordProgressions, PutChordsInPlaceOfMarkers) {
 }
 
 TEST(ChordProgressions, SpeakTheLanguageTheyAreGiven) {
-  class Shouting final : public StringTable {
-   public:
-    std::string localized(std::string_view key) const override { return std::string(key) + "!"; }
-  };
   const auto plain = getChordProgressionsDataForChordType("minor");
-  const auto shouted = getChordProgressionsDataForChordType("minor", Shouting());
+  const auto shouted = getChordProgressionsDataForChordType("minor", testing::Shouting());
   ASSERT_EQ(plain.size(), shouted.size());
   for (std::size_t i = 0; i < plain.size(); ++i) {
     EXPECT_EQ(shouted[i].description, plain[i].description + "!");

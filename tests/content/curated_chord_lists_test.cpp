@@ -8,6 +8,7 @@
 #include "Tonelake/fingering/chord_positions.h"
 #include "Tonelake/foundation/text.h"
 #include "tests/support/printing.h"
+#include "tests/support/shouting.h"
 
 namespace tonelake {
 namespace {
@@ -45,11 +46,7 @@ TEST(CuratedChordLists, PinAFingeringInOneListOnly) {
 }
 
 TEST(CuratedChordLists, SpeakTheLanguageTheyAreGiven) {
-  class Shouting final : public StringTable {
-   public:
-    std::string localized(std::string_view key) const override { return std::string(key) + "!"; }
-  };
-  const ChordLists shouted = curatedChordLists(Shouting());
+  const ChordLists shouted = curatedChordLists(testing::Shouting());
   for (const auto& [category, list] : curatedChordLists()) {
     EXPECT_EQ(shouted.at(category).title, list.title + "!");
     EXPECT_EQ(shouted.at(category).description, list.description + "!");

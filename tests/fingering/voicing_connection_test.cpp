@@ -7,20 +7,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Tonelake/chords/chord_dictionary.h"
 #include "Tonelake/fingering/voicings.h"
 #include "Tonelake/foundation/text.h"
+#include "tests/support/named_chord.h"
 #include "tests/support/printing.h"
 
 namespace tonelake::Voicings {
 namespace {
 
+using testing::chordNamed;
 using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
-
-Chord chordNamed(std::string_view name) {
-  return Chords::lookUpChord(name).value();
-}
 
 std::vector<Chord> chordsNamed(std::string_view names) {
   std::vector<Chord> chords;

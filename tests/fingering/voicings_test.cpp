@@ -6,22 +6,19 @@
 #include <gtest/gtest.h>
 
 #include "Tonelake/chords/chord_data_manager.h"
-#include "Tonelake/chords/chord_dictionary.h"
 #include "tests/support/finger_checker.h"
 #include "tests/support/many_chords.h"
+#include "tests/support/named_chord.h"
 #include "tests/support/plain_voicing_checker.h"
 #include "tests/support/printing.h"
 
 namespace tonelake::Voicings {
 namespace {
 
+using testing::chordNamed;
 using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
 using ::testing::UnorderedElementsAreArray;
-
-Chord chordNamed(std::string_view name) {
-  return Chords::lookUpChord(name).value();
-}
 
 std::vector<std::vector<int>> fretsOf(const std::vector<Voicing>& voicings) {
   std::vector<std::vector<int>> list;
@@ -52,7 +49,7 @@ INSTANTIATE_TEST_SUITE_P(Tunings, EveryTypeAndBass,
                                            TuningNames{"D", "A", "D", "G", "A", "D"},
                                            TuningNames{"E♭", "B♭", "D♭", "G♭", "B♭", "F♭"}));
 
-// All 49 types with each of their tones in the bass, on one root after another.
+// Every type with each of its tones in the bass, on one root after another.
 TEST_P(EveryTypeAndBass, HasTheVoicingsOfThePlainChecker) {
   const auto roots = ChordDataManager::shared().allRootNotes();
   std::size_t root = 0;
