@@ -1,4 +1,4 @@
-// How long the shapes of all 833 offered chords take: searched, judged by the plain checker, read
+// How long the shapes of all offered chords take: searched, judged by the plain checker, read
 // back from a settings store. Times vary with the machine; ratios hold.
 
 #include <cstdio>

@@ -1,4 +1,4 @@
-// How long the voicings of all 833 offered chords take, root in the bass, beside the shapes of
+// How long the voicings of all offered chords take, root in the bass, beside the shapes of
 // the generator: found, given fingers, judged and sorted, on one processor. Times vary with the
 // machine; ratios hold.
 

@@ -28,7 +28,7 @@ class TONELAKE_API ChordDataManager {
   /// Chords by every name that they go by.
   using ChordDictionary = std::unordered_map<std::string, Chord>;
 
-  /// The library's own dictionary of 49 chord types, made on first use.
+  /// The library's own dictionary of chord types, made on first use.
   static const ChordDataManager& shared();
 
   /// A dictionary from a text of the same form. When it cannot be read, one diagnostic line says

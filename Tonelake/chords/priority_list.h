@@ -15,8 +15,8 @@ struct PriorityEntry {
   std::span<const Frets> fingerings;  ///< the best first; kept for good
 };
 
-/// Preferred fingerings of 31 chords. Roots are spelled with sharps, variants are 0: E♭ major has
-/// no entry, D♯ major has.
+/// Preferred fingerings of common chords. Roots are spelled with sharps, variants are 0: E♭ major
+/// has no entry, D♯ major has.
 TONELAKE_API std::span<const PriorityEntry> priorityList();
 
 /// The chord's entry, or an empty list.

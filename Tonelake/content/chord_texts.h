@@ -24,16 +24,16 @@ using ChordTexts = std::map<std::string, std::string, std::less<>>;
 //   5  the ninth, or the added eleventh or thirteenth
 //   6  the eleventh above a ninth
 
-/// Four adjectives for each of the 49 chord types: "mellow, cool, soulful, relaxed".
+/// Four adjectives for each chord type: "mellow, cool, soulful, relaxed".
 TONELAKE_API const ChordTexts& chordCharacterData();
 
-/// Three or four genres for each of the 49 chord types: "Jazz, Soul, Funk, R&B".
+/// Three or four genres for each chord type: "Jazz, Soul, Funk, R&B".
 TONELAKE_API const ChordTexts& chordGenreData();
 
-/// A paragraph on each of the 49 chord types: how it is built, how it sounds, where it is met.
+/// A paragraph on each chord type: how it is built, how it sounds, where it is met.
 TONELAKE_API const ChordTexts& chordDescriptionData();
 
-/// A paragraph on what jazz guitarists do with 27 of them.
+/// A paragraph on what jazz guitarists do with many of them.
 TONELAKE_API const ChordTexts& jazzChordDescriptionData();
 
 }  // namespace tonelake

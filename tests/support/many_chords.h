@@ -9,7 +9,7 @@
 
 namespace tonelake::testing {
 
-/// Every chord that is offered: 17 roots, 49 types, every variant.
+/// Every chord that is offered: each root, each type, every variant.
 template <typename Visit>
 void forEveryChord(Visit visit) {
   for (const Note root : ChordDataManager::shared().allRootNotes()) {
