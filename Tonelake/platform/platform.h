@@ -25,7 +25,7 @@ struct TONELAKE_API Platform {
   std::shared_ptr<SettingsStore> sharedSettings;      ///< what app and widgets share
   std::shared_ptr<const Calendar> calendar;           ///< what time it is, and which day
   ApplicationInformation application;                 ///< part of the key of generated positions
-  std::shared_ptr<const ResourceBundle> resources;    ///< the packaged files
+  std::shared_ptr<const ResourceBundle> resources;    ///< daily lists and patterns
   std::shared_ptr<const StringTable> strings;         ///< the user's language
   std::shared_ptr<RandomSource> random;               ///< chooses titles and minutes of reminders
   std::shared_ptr<NotificationCenter> notifications;  ///< takes reminders

@@ -9,7 +9,8 @@
 
 namespace tonelake {
 
-/// The library's packaged files. Safe to call from any thread.
+/// The library's packaged files: the daily lists and the patterns. The dictionary of chord types is
+/// no matter of the host: it is always the one that is compiled in. Safe to call from any thread.
 class TONELAKE_API ResourceBundle {
  public:
   virtual ~ResourceBundle() = default;
