@@ -11,7 +11,9 @@
 namespace tonelake {
 
 /// The chord tones of a type on a root, spelled after the degrees of its formula, root first. A
-/// formula with more degrees than tones is a programming error.
+/// formula with more degrees than tones is a programming error, and so is what
+/// Interval::isSpellable refuses: a tone outside the three octaves of the spelling tables, and a
+/// piece without a degree on a root of the letter C.
 TONELAKE_API std::vector<std::string> spellTones(Note root, const ChordData& data);
 
 namespace Chords {

@@ -47,11 +47,12 @@ class TONELAKE_API ChordEngine {
   /// In the key of stored results.
   const int chordShapeGeneratorVersion = tonelake::chordShapeGeneratorVersion;
 
-  /// The shapes of the chord that `intervals` (semitones above the root, none negative) make on
-  /// `rootNote` (a raw value of Note) in `tuning` (six names, lowest first), in order of
-  /// discovery, complete voicings first. `limit` -1 gives all; otherwise the search stops once it
-  /// holds that many complete voicings, and at least one. Stored results are returned as they
-  /// stand. Empty for unknown names, no intervals, or a tuning that is not six names.
+  /// The shapes of the chord that `intervals` (semitones above the root) make on `rootNote` (a raw
+  /// value of Note) in `tuning` (six names, lowest first), in order of discovery, complete voicings
+  /// first. `limit` -1 gives all; otherwise the search stops once it holds that many complete
+  /// voicings: one for 0 and for any other negative number. Stored results are returned as they
+  /// stand. Empty for unknown names, no intervals or a negative one, or a tuning that is not six
+  /// names.
   std::vector<ChordPosition> generateChordShapes(std::string_view rootNote,
                                                  std::span<const WholeNumber> intervals,
                                                  WholeNumber limit,

@@ -23,7 +23,7 @@ struct ShapeQuery {
   PitchClassSet chordNotes = 0;     ///< every note of the chord
   PitchClassSet requiredNotes = 0;  ///< those that must sound
   int bass = 0;                     ///< pitch class of the lowest sounding string
-  WholeNumber limit = -1;           ///< complete voicings after which to stop; -1 finds all
+  WholeNumber limit = -1;  ///< complete voicings after which to stop, at least one; -1 finds all
   std::array<OpenString, Tuning::stringCount> strings;  ///< lowest first
 };
 
