@@ -38,11 +38,11 @@ struct Accompaniment {
 /// E at ticks 0, 240, 480 and 720. A pure function; any thread may call.
 TONELAKE_API Performance perform(const Accompaniment& accompaniment);
 
-/// Of the patterns linked to an arpeggio the busiest whose complexity is at most `complexity`, the
-/// simplest where all are busier; null when there is none.
+/// Of the bass patterns linked to an arpeggio the busiest whose complexity is at most `complexity`,
+/// the simplest where all are busier; null when there is none.
 TONELAKE_API const BassPattern* chooseBass(const ArpeggioSequence& arpeggio,
                                            WholeNumber complexity);
-/// @overload
+/// The same of the drum patterns linked to it.
 TONELAKE_API const DrumPattern* chooseDrums(const ArpeggioSequence& arpeggio,
                                             WholeNumber complexity);
 

@@ -48,7 +48,7 @@ class TONELAKE_API ChordDataManager {
   /// Chord by name: every title, shortest title and alternate title of every root in
   /// allRootNotes, type and variant, and the same written with "#" and "b". Where two chords
   /// claim a name the exact title wins, then the shorter type name, then display order. Made on
-  /// first use, since only typed names need it.
+  /// first use, for a search over all names; one name is found faster by chordNamed.
   const ChordDictionary& chordDictionary() const;
 
   /// The chord that the dictionary has under `name`, which is written with "♯" and "♭". Makes the

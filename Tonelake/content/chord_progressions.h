@@ -23,8 +23,10 @@ TONELAKE_API std::vector<ChordProgression> getChordProgressionsDataForChordType(
     std::string_view chordType, const StringTable& strings);
 
 /// The chords of a progression in the key of `chord`: "I-V-vi-IV" in C major gives C major, G
-/// major, A minor, F major. A numeral may follow signs ("♭VII", "bVII", "#iv"). A token that
-/// names no note is left out: "V7" above C, "abc".
+/// major, A minor, F major. A numeral may follow signs ("♭VII", "bVII", "#iv"). Any other
+/// token lies on the root, in the letter of the numeral that it holds: "vii°" is B♯ minor in C
+/// major; without a numeral in the letter below the root's, so that "abc" is C𝄪 major in D major.
+/// Both are kept on purpose. What has no such spelling is left out: "V7" and "abc" in C major.
 TONELAKE_API std::vector<Chord> getChordsForChordProgression(const Chord& chord,
                                                              std::string_view progression);
 
@@ -33,7 +35,8 @@ TONELAKE_API std::vector<Chord> getChordsForChordProgression(const Chord& chord,
 TONELAKE_API std::vector<Chord> getRelatedChordsForKeySignature(const Chord& keySignature);
 
 /// The description with each marker replaced by the chord that it is in the key: in C major
-/// "home (--I--)" becomes "home (C major)". A marker that names no chord stays.
+/// "home (--I--)" becomes "home (C major)". After a marker that names no chord each takes the chord
+/// of the next, and the last ones stay: "--abc-- --IV--" becomes "F major --IV--". Kept on purpose.
 TONELAKE_API std::string getDescription(const ChordProgression& progression, const Chord& chord);
 
 /// The names of the progression's chords: {"G major", "D major", "E minor", "C major"}.

@@ -31,8 +31,8 @@ struct ArpeggioNote {
 using ArpeggioStep = std::vector<ArpeggioNote>;
 
 /// A way of picking or strumming, to play over any chord, again and again, and what goes with it.
-/// Made from its fields it gets an id of
-/// its own, {name, description, notes, metre}; two are equal when their ids are.
+/// Made from its fields it gets an id of its own, {name, description, steps, metre, basses, drums};
+/// two are equal when their ids are.
 struct ArpeggioSequence {
   std::string name;                    ///< its own in a library: patterns are looked up by it
   std::string description;             ///< sentences for the learner

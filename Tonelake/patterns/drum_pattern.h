@@ -27,8 +27,8 @@ struct DrumNote {
   friend bool operator==(const DrumNote&, const DrumNote&) = default;
 };
 
-/// A groove to play again and again. Made from its fields it gets an id of
-/// its own, {name, description, notes, metre}; two are equal when their ids are.
+/// A groove to play again and again. Made from its fields it gets an id of its own, {name,
+/// description, notes, metre}; two are equal when their ids are.
 struct DrumPattern {
   std::string name;                 ///< its own in a library: patterns are looked up by it
   std::string description;          ///< sentences for the learner

@@ -68,12 +68,14 @@ enum class ArpeggioDirection : std::uint8_t {
   t,
   /// The hand goes down, towards the floor: the finger on the next higher one of the three highest
   /// strings plucks it, beginning with the lowest of the three; after the highest it begins anew.
-  /// t d d d plays A G B E on open C. In a step with iii: a downstroke, see there.
+  /// t d d d plays A G B E on open C. Where fewer than three sound, those take their place. In a
+  /// step
+  /// with iii: a downstroke, see there.
   d,
-  /// Bass alternate: the thumb's other string, the lowest one that sounds the chord's fifth below
-  /// the three highest strings; the string after the lowest where there is no such, and the lowest
-  /// itself where that is one of the three highest. Leaves the next finger as it was, so that
-  /// t d b d plays A G D B on open C.
+  /// Bass alternate: the thumb's other string, the lowest one that sounds the chord's fifth above
+  /// the lowest string and below the three highest; the string after the lowest where there is no
+  /// such, and the lowest itself only where it sounds alone. Leaves the next finger as it was, so
+  /// that t d b d plays A G D B on open C.
   b,
   /// The hand comes up: as d, from the highest of the three strings to the lowest. t u u u plays
   /// A E B G, and t d d d u u plays A G B E B G. In a step with iii: an upstroke, see there.
@@ -87,7 +89,9 @@ enum class ArpeggioDirection : std::uint8_t {
   iii,
 };
 
-/// What a bass player plays of the chord. Within one octave above the open E string.
+/// What a bass player plays of the chord. The root is its bass note, of C/E the E, within the
+/// octave above the open E string; octave and third lie above that, and the fifth above or, where
+/// the root lies high, below.
 enum class BassPitch : std::uint8_t { root, fifth, octave, third, rest };
 
 /// Whether a string goes on sounding.

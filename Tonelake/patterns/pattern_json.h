@@ -65,7 +65,7 @@ ArpeggioSequences decodePattern(const json::Node& node);
 
 // Durations, time signatures and drum voices are their raw values, other enumerations objects with
 // the case as their only key, {"pick":{}}, records objects with the names of their fields as keys,
-// in the order of the fields. Stored: do not change the keys.
+// the id first, the others in the order of the fields. Stored: do not change the keys.
 json::Value encodePattern(NoteDuration duration);
 json::Value encodePattern(TimeSignature timeSignature);
 json::Value encodePattern(DrumNoteType type);
