@@ -3,6 +3,10 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
+# Until 1.0 each minor version may part with what programs were built against, and both may have to
+# be installed at once.
+set(ZYNDLE_BINARY_VERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+
 set(ZYNDLE_PACKAGE_FOLDER ${CMAKE_INSTALL_LIBDIR}/cmake/Tonelake)
 
 # install_library(TARGET HEADER...) installs the static library TARGET and a shared one of the same
@@ -17,7 +21,7 @@ function(install_library target)
     LINKER_LANGUAGE CXX
     OUTPUT_NAME ${target}
     VERSION ${PROJECT_VERSION}
-    SOVERSION ${PROJECT_VERSION_MAJOR}
+    SOVERSION ${ZYNDLE_BINARY_VERSION}
     EXPORT_NAME ${target})
   target_include_directories(${target}_shared INTERFACE
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)

@@ -3,7 +3,7 @@
 # not find it.
 import ctypes, json, os, sys
 
-library = ctypes.CDLL(os.environ.get("TONELAKE_CALL", "libtonelake_call.so.0"))
+library = ctypes.CDLL(os.environ.get("TONELAKE_CALL", "libtonelake_call.so.0.1"))
 library.tonelake_call.restype = ctypes.c_void_p
 
 def call(method, **parameters):
