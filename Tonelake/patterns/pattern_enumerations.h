@@ -69,8 +69,7 @@ enum class ArpeggioDirection : std::uint8_t {
   /// The hand goes down, towards the floor: the finger on the next higher one of the three highest
   /// strings plucks it, beginning with the lowest of the three; after the highest it begins anew.
   /// t d d d plays A G B E on open C. Where fewer than three sound, those take their place. In a
-  /// step
-  /// with iii: a downstroke, see there.
+  /// step with iii: a downstroke, see there.
   d,
   /// Bass alternate: the thumb's other string, the lowest one that sounds the chord's fifth above
   /// the lowest string and below the three highest; the string after the lowest where there is no
