@@ -163,8 +163,7 @@ void showChord(const ChordOptions& options) {
   const WholeNumber limit = readNumber("--limit", options.limit, defaultLimit, 1);
   const Instrument instrument = readInstrument(options.instrument);
   installHost(options.output.isForPrograms());
-  const ChordSheet sheet =
-      makeChordSheet(readChordName(tonelake::join(options.name, " "), options.output.ascii));
+  const ChordSheet sheet = makeChordSheet(readChordName(tonelake::join(options.name, " ")));
   const ShownChord shown{sheet, describeInWords(sheet.chord), instrument,
                          findPositions(sheet.chord, limit, instrument)};
   const DrawingStyle style = drawingStyle(options.output);

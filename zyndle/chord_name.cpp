@@ -4,7 +4,6 @@
 #include <array>
 #include <utility>
 
-#include "Desktop/ascii_text.h"
 #include "Tonelake/chords/chord_dictionary.h"
 #include "Tonelake/chords/chord_naming.h"
 #include "Tonelake/chords/chord_spelling.h"
@@ -197,9 +196,9 @@ ParsedChordName parseChordName(std::string_view typed) {
   return {std::nullopt, unknownName(name)};
 }
 
-Chord readChordName(std::string_view typed, bool inAscii) {
+Chord readChordName(std::string_view typed) {
   const ParsedChordName parsed = parseChordName(typed);
-  if (!parsed.chord) refuse(inAscii ? desktop::toAscii(parsed.problem) : parsed.problem);
+  if (!parsed.chord) refuse(parsed.problem);
   return *parsed.chord;
 }
 

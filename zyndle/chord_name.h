@@ -20,9 +20,8 @@ struct ParsedChordName {
 /// ("D/Gb") do no harm. A problem tells the nearest names.
 ParsedChordName parseChordName(std::string_view typed);
 
-/// The chord of a typed name. A CommandError with the problem, in ASCII if asked for, when there is
-/// none.
-tonelake::Chord readChordName(std::string_view typed, bool inAscii = false);
+/// The chord of a typed name. A CommandError with the problem when there is none.
+tonelake::Chord readChordName(std::string_view typed);
 
 /// The name as the dictionary would most likely have it: "c Minor 7th/eb" gives "Cm7/E♭".
 std::string plainChordName(std::string_view typed);

@@ -10,11 +10,11 @@
 namespace zyndle {
 using tonelake::Chord;
 
-std::vector<Chord> readChordRow(const std::vector<std::string>& arguments, bool inAscii) {
+std::vector<Chord> readChordRow(const std::vector<std::string>& arguments) {
   std::vector<Chord> chords;
   const std::string text = tonelake::join(arguments, " ");
   for (const std::string_view name : tonelake::splitWords(text, " ,|\t\r\n")) {
-    chords.push_back(readChordName(std::string(name), inAscii));
+    chords.push_back(readChordName(name));
   }
   if (chords.empty()) refuse(translated("{} names no chord", "CHORDS"));
   return chords;

@@ -70,7 +70,7 @@ void showConnected(const ConnectOptions& options) {
   checkOutputOptions(options.output);
   const Instrument instrument = readInstrument(options.instrument);
   installHost(options.output.isForPrograms());
-  const std::vector<Chord> chords = readChordRow(options.names, options.output.ascii);
+  const std::vector<Chord> chords = readChordRow(options.names);
   const std::vector<Voicing> row = connectShapes(chords, instrument);
   writeText(options.output, options.output.json
                                 ? jsonOf(chords, row, instrument)

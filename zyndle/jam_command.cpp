@@ -214,7 +214,7 @@ void jam(const JamOptions& options) {
   const bool writesToOutput = options.file == "-";
   installHost(writesToOutput);
   const Accompaniment piece =
-      readAccompaniment(options, readSongChords(options.chords, options.key, options.ascii));
+      readAccompaniment(options, readSongChords(options.chords, options.key));
   std::optional<desktop::Synthesizer> synthesizer;
   if (options.play || kind == FileKind::wav) synthesizer = readSynthesizer(options);
   tonelake::Performance performance = tonelake::perform(piece);

@@ -18,10 +18,11 @@ std::string usualKey(const std::string& mode) {
 
 // "bVII" and "iv", unlike every name of a chord, have I or V behind their signs.
 bool beginsWithNumeral(const std::vector<std::string>& words) {
-  const std::string text = tonelake::join(words, " ");
-  const std::size_t first = text.find_first_not_of(" |b#\u266D\u266F");
+  const std::vector<std::string> numerals = splitNumerals(words);
+  if (numerals.empty()) return false;
+  const std::size_t first = numerals.front().find_first_not_of("b#\u266D\u266F");
   return first != std::string::npos &&
-         std::string_view("IVXivx").find(text[first]) != std::string_view::npos;
+         std::string_view("IVXivx").find(numerals.front()[first]) != std::string_view::npos;
 }
 
 }  // namespace
@@ -42,12 +43,12 @@ KeyChords readKeyChords(const std::vector<std::string>& numerals,
 }
 
 std::vector<tonelake::Chord> readSongChords(const std::vector<std::string>& words,
-                                            const std::optional<std::string>& key, bool inAscii) {
+                                            const std::optional<std::string>& key) {
   if (beginsWithNumeral(words)) return readKeyChords(words, key).chords;
   if (key) {
     refuse(translated("--key goes with Roman numerals, such as I-V-vi-IV, not with chords"));
   }
-  return readChordRow(words, inAscii);
+  return readChordRow(words);
 }
 
 }  // namespace zyndle

@@ -24,6 +24,6 @@ KeyChords readKeyChords(const std::vector<std::string>& numerals,
 /// The chords of a song, typed as numerals in a key or, where the first word is no numeral, by
 /// their names as readChordRow takes them.
 std::vector<tonelake::Chord> readSongChords(const std::vector<std::string>& words,
-                                            const std::optional<std::string>& key, bool inAscii);
+                                            const std::optional<std::string>& key);
 
 }  // namespace zyndle

@@ -12,6 +12,7 @@
 #include "Desktop/languages.h"
 #include "Tonelake/foundation/text.h"
 #include "zyndle/command_error.h"
+#include "zyndle/output.h"
 #include "zyndle/translation.h"
 
 namespace zyndle {
@@ -92,6 +93,7 @@ std::vector<const char*> chooseLanguage(Arguments arguments) {
   std::string language = desktop::languageOfEnvironment();
   chooseStrings(desktop::makeStringTable(language));
   SplitArguments split = splitArguments(arguments);
+  if (split.isAscii) reportInAscii();
   if (split.language) {
     language = readLanguage(*split.language);
     chooseStrings(desktop::makeStringTable(language));

@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "Desktop/ascii_text.h"
 #include "Desktop/environment.h"
 #include "Desktop/file_replacement.h"
 #include "Desktop/files.h"
@@ -17,6 +18,8 @@
 
 namespace zyndle {
 namespace {
+
+bool reportsInAscii = false;
 
 [[noreturn]] void failWriting(const std::string& target, int error) {
   fail(translated("cannot write {0}: {1}", target, std::strerror(error)));
@@ -56,7 +59,13 @@ void writeFile(const std::string& path, std::string_view text) {
 
 void reportProblem(std::string_view message) noexcept {
   if (message.empty()) return;
-  desktop::writeAll(STDERR_FILENO, "zyndle: " + printable(message) + "\n");
+  std::string line = printable(message);
+  if (reportsInAscii) line = desktop::toAscii(line);
+  desktop::writeAll(STDERR_FILENO, "zyndle: " + line + "\n");
+}
+
+void reportInAscii() noexcept {
+  reportsInAscii = true;
 }
 
 std::string printable(std::string_view text) {

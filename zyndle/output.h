@@ -20,6 +20,9 @@ std::string printable(std::string_view text);
 /// with an empty message.
 void reportProblem(std::string_view message) noexcept;
 
+/// Has reportProblem write ASCII only, from here on. Called before other threads start.
+void reportInAscii() noexcept;
+
 /// Whether standard output may be coloured: it is a terminal, and NO_COLOR is unset or empty.
 bool mayColour();
 

@@ -29,12 +29,17 @@ std::string_view withoutSigns(std::string_view word) {
 
 }  // namespace
 
-std::string readProgression(const std::vector<std::string>& words) {
+std::vector<std::string> splitNumerals(const std::vector<std::string>& words) {
   constexpr std::string_view separators = " -,|\t\r\n";
   // Dashes of typeset text part numerals as hyphens do.
   const std::string text = replaceAll(replaceAll(tonelake::join(words, " "), "–", "-"), "—", "-");
+  const std::vector<std::string_view> numerals = tonelake::splitWords(text, separators);
+  return {numerals.begin(), numerals.end()};
+}
+
+std::string readProgression(const std::vector<std::string>& words) {
   std::vector<std::string> numerals;
-  for (const std::string_view typed : tonelake::splitWords(text, separators)) {
+  for (const std::string& typed : splitNumerals(words)) {
     numerals.push_back(tonelake::withMusicSigns(typed));
     if (!isNumeral(withoutSigns(numerals.back()))) {
       refuse(

@@ -111,8 +111,7 @@ void showVoicings(const CommandOptions& options) {
   const Instrument instrument = readInstrument(options.instrument);
   const VoicingOptions voicingOptions = readOptions(options, instrument);
   installHost(options.output.isForPrograms());
-  const tonelake::Chord chord =
-      readChordName(tonelake::join(options.name, " "), options.output.ascii);
+  const tonelake::Chord chord = readChordName(tonelake::join(options.name, " "));
   ShownVoicings shown{makeChordSheet(chord), instrument,
                       tonelake::Voicings::findVoicings(chord, instrument.tuning, voicingOptions)};
   shown.count = shown.voicings.size();

@@ -46,6 +46,10 @@ TEST_F(JamCommand, WritesMidiFiles) {
             "format 1, 480 ticks, 5.870 seconds\n"
             "Am | E7: metre 3/4, tempo 652173; 0 notes [] on []; ends at 4320\n"
             "Bass: program 33; 9 notes [28, 32, 33, 35, 36, 40] on [7]; ends at 4320\n");
+  // Numerals behind any of the signs that may part them.
+  for (const char* typed : {"I-V", "| I V", ", I V", "– I – V"}) {
+    EXPECT_EQ(run({"jam", typed, "-o", "-"}).status, 0) << typed;
+  }
 }
 
 TEST_F(JamCommand, DrawsPatternsAndReadsThemBack) {
