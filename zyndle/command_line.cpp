@@ -100,6 +100,8 @@ std::string describe(const CLI::App& app, const CLI::ParseError& error) {
 void run(Arguments typed, AddCommands addCommands) {
   const std::vector<const char*> arguments = chooseLanguage(typed);
   CLI::App app(translated(description), "zyndle");
+  // Subcommands take this over as they are added.
+  app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
   Action action;
   app.set_help_flag("--help,-h", translated("Tell how to use this"));
   app.set_version_flag("--version", version, translated("Write the version"));
