@@ -20,6 +20,7 @@
 #include "zyndle/key_chords.h"
 #include "zyndle/number_option.h"
 #include "zyndle/output.h"
+#include "zyndle/output_options.h"
 #include "zyndle/pattern_names.h"
 #include "zyndle/text_layout.h"
 #include "zyndle/translation.h"
@@ -252,12 +253,9 @@ void addJamCommand(CLI::App& app, Action& action) {
   addText("--library", options->library, message("Read styles from a JSON file"), "FILE");
   addText("-o,--output", options->file, message("Write a .mid or a .wav file"), "FILE");
   addText("--soundfont", options->soundfont, message("The sounds to play with"), "FILE");
-  const auto addFlag = [&command](const char* name, bool& flag, const char* meaning) {
-    command.add_flag(name, flag, translated(meaning))->disable_flag_override();
-  };
-  addFlag("--no-guitar", options->noGuitar, message("Leave the guitar to you"));
-  addFlag("--play", options->play, message("Play it aloud"));
-  addFlag("--ascii", options->ascii, message("Write ASCII characters only"));
+  addFlag(command, "--no-guitar", options->noGuitar, message("Leave the guitar to you"));
+  addFlag(command, "--play", options->play, message("Play it aloud"));
+  addFlag(command, "--ascii", options->ascii, message("Write ASCII characters only"));
   command.callback([options, &action] { action = [options] { jam(*options); }; });
 }
 

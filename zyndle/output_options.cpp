@@ -9,13 +9,9 @@
 
 namespace zyndle {
 
-namespace {
-
 void addFlag(CLI::App& command, const char* name, bool& flag, const char* meaning) {
   command.add_flag(name, flag, translated(meaning))->disable_flag_override();
 }
-
-}  // namespace
 
 void addFormatOptions(CLI::App& command, OutputOptions& options) {
   addFlag(command, "--ascii", options.ascii, message("Write and draw with ASCII characters only"));

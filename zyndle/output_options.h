@@ -22,7 +22,11 @@ struct OutputOptions {
   bool isForPrograms() const { return json || svgFile == "-"; }
 };
 
-// `options` has to live as long as the subcommand.
+// What is given by reference has to live as long as the subcommand.
+
+/// Adds an option that is given or not, and takes no value. `meaning` is in English, marked as a
+/// message.
+void addFlag(CLI::App& command, const char* name, bool& flag, const char* meaning);
 
 /// Adds --ascii and --json to a subcommand.
 void addFormatOptions(CLI::App& command, OutputOptions& options);

@@ -13,6 +13,7 @@
 #include "zyndle/command_error.h"
 #include "zyndle/host.h"
 #include "zyndle/output.h"
+#include "zyndle/output_options.h"
 #include "zyndle/pattern_grid.h"
 #include "zyndle/pattern_names.h"
 #include "zyndle/text_columns.h"
@@ -169,8 +170,7 @@ void addPatternsCommand(CLI::App& app, Action& action) {
       .add_option("--library", options->library,
                   translated("Read ways to pick and strum from here"))
       ->type_name("FILE");
-  command.add_flag("--json", options->json, translated("Write a library in JSON"))
-      ->disable_flag_override();
+  addFlag(command, "--json", options->json, message("Write a library in JSON"));
   command.callback([options, &action] { action = [options] { showPatterns(*options); }; });
 }
 

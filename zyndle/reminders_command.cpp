@@ -6,6 +6,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "zyndle/output_options.h"
 #include "zyndle/reminder_export.h"
 #include "zyndle/reminder_installation.h"
 #include "zyndle/reminder_posting.h"
@@ -47,9 +48,8 @@ void addDelivery(CLI::App& command, Action& action) {
   CLI::App& deliver =
       *command.add_subcommand("deliver", translated("Show the reminders that are due"));
   const auto wait = std::make_shared<bool>(false);
-  deliver
-      .add_flag("--wait", *wait, translated("Stay, show each in its time and open what is clicked"))
-      ->disable_flag_override();
+  addFlag(deliver, "--wait", *wait,
+          message("Stay, show each in its time and open what is clicked"));
   deliver.callback([wait, &action] { action = [wait] { deliverReminders(*wait); }; });
 
   CLI::App& install =

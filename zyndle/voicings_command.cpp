@@ -142,10 +142,8 @@ void addVoicingsCommand(CLI::App& app, Action& action) {
   addNumber("--max-fret", options->highestFret, message("The highest fret to press (15)"));
   addNumber("--inner-mutes", options->innerMutes,
             message("Strings that may be left out inside (1)"));
-  command
-      .add_flag("--high-open-strings", options->openStringsAboveFifthFret,
-                translated("Let open strings ring above the fifth fret"))
-      ->disable_flag_override();
+  addFlag(command, "--high-open-strings", options->openStringsAboveFifthFret,
+          message("Let open strings ring above the fifth fret"));
   addOutputOptions(command, options->output);
   command.callback([options, &action] { action = [options] { showVoicings(*options); }; });
 }
