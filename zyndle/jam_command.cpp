@@ -243,14 +243,14 @@ void addJamCommand(CLI::App& app, Action& action) {
                                   const char* kind) {
     command.add_option(name, text, translated(meaning))->type_name(kind);
   };
-  addText("--key", options->key, message("The key of Roman numerals (C)"), "KEY");
+  addText("--key", options->key, message("The key (C, or A minor)"), "KEY");
   addText("--style", options->style, message("A way to pick or strum (Campfire Strum)"), "NAME");
   addText("--bass", options->bass, message("A bass line, or none"), "NAME");
   addText("--drums", options->drums, message("A groove, or none"), "NAME");
   addText("--complexity", options->complexity, message("How busy bass and drums may be (1)"), "N");
   addText("--tempo", options->tempo, message("Crotchets a minute (92)"), "N");
   addText("--bars", options->bars, message("The length (8, or one for each chord)"), "N");
-  addText("--library", options->library, message("Read styles from a JSON file"), "FILE");
+  addText("--library", options->library, message("Read patterns from a JSON file"), "FILE");
   addText("-o,--output", options->file, message("Write a .mid or a .wav file"), "FILE");
   addText("--soundfont", options->soundfont, message("The sounds to play with"), "FILE");
   addFlag(command, "--no-guitar", options->noGuitar, message("Leave the guitar to you"));

@@ -17,7 +17,23 @@ namespace {
 constexpr std::size_t largestFile = std::size_t{1} << 20U;
 constexpr const char* largestFileText = "1 MiB";
 
-tonelake::ArpeggioSequences readSequences(const std::string& file) {
+// Whether the document has patterns of this kind, which then take the place of all of that kind.
+template <typename Part>
+bool replacePart(Part& part, std::string_view key, const tonelake::json::Node& document) {
+  if (!document.optionalMember(key)) return false;
+  part = tonelake::decodePattern<Part>(document);
+  return true;
+}
+
+void replaceParts(tonelake::PatternLibrary& library, const tonelake::json::Node& document) {
+  const bool hasArpeggios = replacePart(library.arpeggios, "sequences", document);
+  const bool hasBasses = replacePart(library.basses, "bassPatterns", document);
+  const bool hasDrums = replacePart(library.drums, "drumPatterns", document);
+  if (!hasArpeggios && !hasBasses && !hasDrums)
+    document.fail("expected sequences, bassPatterns or drumPatterns");
+}
+
+void readParts(tonelake::PatternLibrary& library, const std::string& file) {
   const auto text = desktop::readFile(file, largestFile);
   if (!text) {
     refuse(translated("cannot read {0}, or it is larger than {1}", tonelake::quoted(file),
@@ -25,7 +41,7 @@ tonelake::ArpeggioSequences readSequences(const std::string& file) {
   }
   try {
     const tonelake::json::Value document = tonelake::json::parse(*text);
-    return tonelake::decodePattern<tonelake::ArpeggioSequences>(tonelake::json::Node(document));
+    replaceParts(library, tonelake::json::Node(document));
   } catch (const tonelake::json::DecodingError& error) {
     refuse(translated("{0} is no library of patterns: {1}", tonelake::quoted(file), error.what()));
   }
@@ -41,7 +57,7 @@ std::string lowercase(std::string_view text) {
 
 tonelake::PatternLibrary readLibrary(const std::optional<std::string>& file) {
   tonelake::PatternLibrary library = tonelake::builtInPatterns();
-  if (file) library.arpeggios = readSequences(*file);
+  if (file) readParts(library, *file);
   return library;
 }
 

@@ -9,14 +9,17 @@
 
 namespace zyndle {
 
-/// The patterns to choose from: the built-in ones, the arpeggios replaced by those of a file, where
-/// one is given. A CommandError that names the file when it cannot be read.
+/// The patterns to choose from: the built-in ones, each kind of which gives way to that of a file,
+/// where a file is given and has patterns of that kind. A CommandError that names the file when it
+/// cannot be read or has none.
 tonelake::PatternLibrary readLibrary(const std::optional<std::string>& file);
 
 /// Whether two names are the same but for capitals.
 bool isSameName(std::string_view one, std::string_view other);
 
-/// "; the nearest are Rolling Six, Plucked Waltz" for a name that is none of `known`, or "".
+/// What follows the problem with a name that is none of `known`: "; the nearest are Rolling Six,
+/// Plucked Waltz", where none is near "; zyndle patterns lists all", and nothing after a name
+/// longer than any pattern's.
 std::string describeNearest(std::string_view name, const std::vector<std::string>& known);
 
 /// The first pattern of exactly this name, else the first whose name differs in capitals only; null

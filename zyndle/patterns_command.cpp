@@ -125,6 +125,13 @@ std::string jsonOf(const Library& library) {
   return tonelake::json::write(tonelake::encodePattern(library)) + "\n";
 }
 
+std::string jsonOf(const PatternLibrary& library) {
+  tonelake::json::Value object = tonelake::encodePattern(library.arpeggios);
+  object.update(tonelake::encodePattern(library.basses));
+  object.update(tonelake::encodePattern(library.drums));
+  return tonelake::json::write(object) + "\n";
+}
+
 [[noreturn]] void refuseName(const std::string& name, const PatternLibrary& library) {
   std::vector<std::string> names;
   addNames(names, library.arpeggios.sequences);
@@ -154,7 +161,7 @@ void showPatterns(const PatternsOptions& options) {
   if (!options.name.empty()) {
     return writeStandardOutput(show(library, tonelake::join(options.name, " "), options.json));
   }
-  writeStandardOutput(options.json ? jsonOf(library.arpeggios) : listAll(library));
+  writeStandardOutput(options.json ? jsonOf(library) : listAll(library));
 }
 
 }  // namespace
@@ -166,9 +173,7 @@ void addPatternsCommand(CLI::App& app, Action& action) {
   command
       .add_option("NAME", options->name, translated("The pattern's name, in one word or several"))
       ->type_name("");
-  command
-      .add_option("--library", options->library,
-                  translated("Read ways to pick and strum from here"))
+  command.add_option("--library", options->library, translated("Read patterns from a JSON file"))
       ->type_name("FILE");
   addFlag(command, "--json", options->json, message("Write a library in JSON"));
   command.callback([options, &action] { action = [options] { showPatterns(*options); }; });

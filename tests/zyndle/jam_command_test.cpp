@@ -11,6 +11,7 @@ namespace zyndle {
 namespace {
 
 using testing::AllOf;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -60,10 +61,31 @@ TEST_F(JamCommand, DrawsPatternsAndReadsThemBack) {
                               "downstroke  |O - o - - - o -\n"
                               "upstroke    |- - - o - o - o\n"),
                     HasSubstr("Anthem (3)")));
-  const std::string library =
-      folder_.write("mine.json", run({"patterns", "Rolling Six", "--json"}).output);
-  EXPECT_THAT(run({"patterns", "--library", library}).output,
-              StartsWith("Ways to pick and strum\n  Rolling Six               3/4, 1 bar\n\n"));
+  // A pattern of one kind replaces that kind only; all of them are what is built in.
+  const auto written = [this](const std::vector<std::string>& name) {
+    std::vector<std::string> arguments{"patterns", "--json"};
+    arguments.insert(arguments.end(), name.begin(), name.end());
+    return folder_.write(tonelake::join(name, "") + ".json", run(arguments).output);
+  };
+  const std::string all = run({"patterns"}).output;
+  EXPECT_EQ(run({"patterns", "--library", written({})}).output, all);
+  const std::string library = written({"Rolling", "Six"});
+  EXPECT_THAT(
+      run({"patterns", "--library", library}).output,
+      AllOf(StartsWith("Ways to pick and strum\n  Rolling Six               3/4, 1 bar\n\n"),
+            EndsWith(all.substr(all.find("Bass lines\n")))));
+  EXPECT_THAT(run({"patterns", "--library", written({"Bossa Bass"})}).output,
+              AllOf(StartsWith(all.substr(0, all.find("Bass lines\n"))),
+                    HasSubstr("Bass lines\n  Bossa Bass                4/4, 1 bar\n\nGrooves\n"),
+                    EndsWith(all.substr(all.find("Grooves\n")))));
+  EXPECT_THAT(run({"patterns", "--library", written({"Bossa Nova Sticks"})}).output,
+              EndsWith("Grooves\n  Bossa Nova Sticks         4/4, 2 bars\n"));
+  for (const auto& [option, name] :
+       {std::pair("--bass", "Bossa Bass"), std::pair("--drums", "Bossa Nova Sticks")}) {
+    const auto played = run({"jam", "C", "-o", folder_.path("x.mid"), option, name, "--library",
+                             folder_.path(std::string(name) + ".json")});
+    EXPECT_THAT(played.output, HasSubstr(name)) << played.errors;
+  }
   const std::string unclean = tonelake::replaceAll(*desktop::readFile(library, 1 << 20),
                                                    "Rolling Six", R"(転がる\u001b[2J)");
   EXPECT_THAT(run({"patterns", "--library", folder_.write("unclean.json", unclean)}).output,
@@ -111,6 +133,8 @@ TEST_F(JamCommand, RefusesInOneLine) {
       {fromFile("type.json", start + R"([[{"noteDuration":"long"}]])" + end),
        "sequences[0].sequence[0][0].noteDuration: expected a number"},
       {fromFile("list.json", "[]"), "expected an object"},
+      {fromFile("parts.json", R"({"basses":[]})"), "expected sequences, bassPatterns or drumPatt"},
+      {fromFile("bass.json", R"({"sequences":[],"bassPatterns":{}})"), "bassPatterns: expected a"},
       {jam({"-o", "-", "--library", silent}), "there is no --style \"Campfire Strum\""},
   };
   for (const Row& row : rows) {
