@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <map>
 #include <numeric>
-#include <span>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -25,40 +27,48 @@ using tonelake::WholeNumber;
 
 constexpr std::size_t leastLabelWidth = 12;
 
-struct Grid {
-  WholeNumber bar;         // ticks
-  WholeNumber length = 0;  // ticks
-  // The signs by their rows and ticks; where two fall together the first is shown.
-  std::map<std::pair<std::string_view, WholeNumber>, char> marks;
+// What the right hand does, each in a row of its own.
+enum class Picking : std::uint8_t {
+  downstroke,
+  upstroke,
+  upperThree,
+  fingerDown,
+  fingerUp,
+  alternate,
+  thumb,
+  rest,
+};
 
-  void mark(std::string_view row, char sign) { marks.emplace(std::pair(row, length), sign); }
+template <typename Voice>
+struct Row {
+  Voice voice;
+  const char* name;
 };
 
 // From the top of the grid to its bottom, as the strings and the drum kit lie.
-constexpr std::array<std::string_view, 8> arpeggioRows{
+constexpr std::array<Row<Picking>, 8> arpeggioRows{{
     // TRANSLATORS: this and the next seven are rows of a picking grid: what the right hand does.
-    message("downstroke"),
-    message("upstroke"),
+    {Picking::downstroke, message("downstroke")},
+    {Picking::upstroke, message("upstroke")},
     // TRANSLATORS: a row of a picking grid: the three highest strings together.
-    message("upper three"),
+    {Picking::upperThree, message("upper three")},
     // TRANSLATORS: a row of a picking grid: a finger plucks the next string towards the floor.
-    message("finger down"),
-    message("finger up"),
+    {Picking::fingerDown, message("finger down")},
+    {Picking::fingerUp, message("finger up")},
     // TRANSLATORS: a row of a picking grid: the alternate bass string of the thumb.
-    message("alternate"),
-    message("thumb"),
+    {Picking::alternate, message("alternate")},
+    {Picking::thumb, message("thumb")},
     // TRANSLATORS: a row of a picking grid: silence.
-    message("rest"),
-};
-constexpr std::array<std::string_view, 4> bassRows{
+    {Picking::rest, message("rest")},
+}};
+constexpr std::array<Row<BassPitch>, 4> bassRows{{
     // TRANSLATORS: this and the next three are rows of a bass grid: tones of the chord.
-    message("octave"), message("fifth"), message("third"), message("root")};
-
-struct DrumRow {
-  DrumNoteType type;
-  std::string_view label;
-};
-constexpr std::array<DrumRow, 11> drumRows{{
+    {BassPitch::octave, message("octave")},
+    {BassPitch::fifth, message("fifth")},
+    {BassPitch::third, message("third")},
+    {BassPitch::root, message("root")},
+}};
+constexpr std::array<Row<DrumNoteType>, 11> drumRows{{
     // TRANSLATORS: this and the next ten are rows of a drum grid.
     {DrumNoteType::crash, message("crash")},
     {DrumNoteType::ride, message("ride")},
@@ -73,6 +83,16 @@ constexpr std::array<DrumRow, 11> drumRows{{
     {DrumNoteType::kick, message("kick")},
 }};
 
+template <typename Voice>
+struct Grid {
+  WholeNumber bar;         // ticks
+  WholeNumber length = 0;  // ticks
+  // The signs by their voices and ticks; where two fall together the first is shown.
+  std::map<std::pair<Voice, WholeNumber>, char> marks;
+
+  void mark(Voice voice, char sign) { marks.emplace(std::pair(voice, length), sign); }
+};
+
 char signOf(NoteArticulation articulation, WholeNumber velocity) {
   constexpr WholeNumber loud = 96;
   constexpr WholeNumber medium = 60;
@@ -81,64 +101,63 @@ char signOf(NoteArticulation articulation, WholeNumber velocity) {
   return velocity >= medium ? 'o' : '.';
 }
 
-// What a note is called beside the others of its step: with iii, d and u are strokes.
-std::string_view rowOf(const tonelake::ArpeggioNote& note, std::string_view stroke) {
-  switch (note.arpeggioDirection) {
-    case ArpeggioDirection::t:
-      return "thumb";
-    case ArpeggioDirection::b:
-      return "alternate";
-    case ArpeggioDirection::r:
-      return "rest";
-    case ArpeggioDirection::d:
-      return stroke.empty() ? "finger down" : stroke;
-    case ArpeggioDirection::u:
-      return stroke.empty() ? "finger up" : stroke;
-    case ArpeggioDirection::iii:
-      break;
-  }
-  return stroke.empty() ? "upper three" : stroke;
-}
-
 bool holds(const tonelake::ArpeggioStep& step, ArpeggioDirection direction) {
   return std::any_of(step.begin(), step.end(), [direction](const tonelake::ArpeggioNote& note) {
     return note.arpeggioDirection == direction;
   });
 }
 
-std::string_view strokeOf(const tonelake::ArpeggioStep& step) {
-  if (!holds(step, ArpeggioDirection::iii)) return "";
-  if (holds(step, ArpeggioDirection::d)) return "downstroke";
-  return holds(step, ArpeggioDirection::u) ? "upstroke" : "";
+// With iii among its notes, d and u make a step a stroke.
+std::optional<Picking> strokeOf(const tonelake::ArpeggioStep& step) {
+  if (!holds(step, ArpeggioDirection::iii)) return std::nullopt;
+  if (holds(step, ArpeggioDirection::d)) return Picking::downstroke;
+  if (holds(step, ArpeggioDirection::u)) return Picking::upstroke;
+  return std::nullopt;
 }
 
-void addMarks(Grid& grid, const tonelake::ArpeggioStep& step) {
-  const std::string_view stroke = strokeOf(step);
+Picking pickingOf(const tonelake::ArpeggioNote& note, std::optional<Picking> stroke) {
+  switch (note.arpeggioDirection) {
+    case ArpeggioDirection::t:
+      return Picking::thumb;
+    case ArpeggioDirection::b:
+      return Picking::alternate;
+    case ArpeggioDirection::r:
+      return Picking::rest;
+    case ArpeggioDirection::d:
+      return stroke.value_or(Picking::fingerDown);
+    case ArpeggioDirection::u:
+      return stroke.value_or(Picking::fingerUp);
+    case ArpeggioDirection::iii:
+      break;
+  }
+  return stroke.value_or(Picking::upperThree);
+}
+
+void addMarks(Grid<Picking>& grid, const tonelake::ArpeggioStep& step) {
+  const std::optional<Picking> stroke = strokeOf(step);
   for (const tonelake::ArpeggioNote& note : step) {
     const bool isRest = note.arpeggioDirection == ArpeggioDirection::r;
     if (!isRest && note.noteVelocity == 0) continue;
     const char sign = isRest ? '*' : signOf(note.noteArticulation, note.noteVelocity);
-    grid.mark(rowOf(note, stroke), sign);
+    grid.mark(pickingOf(note, stroke), sign);
   }
 }
 
-void addMarks(Grid& grid, const tonelake::BassNote& note) {
+void addMarks(Grid<BassPitch>& grid, const tonelake::BassNote& note) {
   if (note.pitch == BassPitch::rest || note.noteVelocity <= 0) return;
-  grid.mark(tonelake::caseName(note.pitch), signOf(note.noteArticulation, note.noteVelocity));
+  grid.mark(note.pitch, signOf(note.noteArticulation, note.noteVelocity));
 }
 
-void addMarks(Grid& grid, const tonelake::DrumNote& note) {
-  for (const tonelake::DrumMIDINote& voice : note.drumMIDINote) {
-    for (const DrumRow& row : drumRows) {
-      if (row.type != voice.noteType || voice.noteVelocity == 0) continue;
-      grid.mark(row.label, signOf(NoteArticulation::pick, voice.noteVelocity));
-    }
+void addMarks(Grid<DrumNoteType>& grid, const tonelake::DrumNote& note) {
+  for (const tonelake::DrumMIDINote& drum : note.drumMIDINote) {
+    if (drum.noteType == DrumNoteType::rest || drum.noteVelocity == 0) continue;
+    grid.mark(drum.noteType, signOf(NoteArticulation::pick, drum.noteVelocity));
   }
 }
 
-template <typename Step>
-Grid layOut(const std::vector<Step>& steps, tonelake::TimeSignature timeSignature) {
-  Grid grid{tonelake::ticksOfBar(timeSignature), 0, {}};
+template <typename Voice, typename Step>
+Grid<Voice> layOut(const std::vector<Step>& steps, tonelake::TimeSignature timeSignature) {
+  Grid<Voice> grid{tonelake::ticksOfBar(timeSignature), 0, {}};
   for (const Step& step : steps) {
     addMarks(grid, step);
     grid.length += tonelake::lengthOf(step);
@@ -147,7 +166,8 @@ Grid layOut(const std::vector<Step>& steps, tonelake::TimeSignature timeSignatur
 }
 
 // The time from column to column: as fine as the pattern is, and no coarser than a beat.
-WholeNumber columnOf(const Grid& grid) {
+template <typename Voice>
+WholeNumber columnOf(const Grid<Voice>& grid) {
   WholeNumber column = tonelake::ticksPerCrotchet;
   for (const auto& [place, sign] : grid.marks) column = std::gcd(column, place.second);
   return std::gcd(column, grid.length);
@@ -162,10 +182,6 @@ char countSign(WholeNumber tick, WholeNumber column) {
   return column == beat ? ' ' : fine[static_cast<std::size_t>(place - 1)];
 }
 
-std::string labelText(std::string_view row) {
-  return strings()->localized(row);
-}
-
 std::string padded(std::string text, std::size_t width) {
   const std::size_t columns = countColumns(text);
   return text.append(width > columns ? width - columns : 0, ' ');
@@ -173,37 +189,41 @@ std::string padded(std::string text, std::size_t width) {
 
 // The columns of one row from a tick up to another, a bar line before every bar.
 template <typename SignAt>
-std::string rowText(std::string_view label, const Grid& grid, WholeNumber begin, WholeNumber end,
+std::string rowText(std::string_view label, WholeNumber bar, WholeNumber begin, WholeNumber end,
                     WholeNumber column, SignAt signAt) {
   std::string text(label);
   for (WholeNumber tick = begin; tick < end; tick += column) {
-    text += tick % grid.bar == 0 ? '|' : ' ';
+    text += tick % bar == 0 ? '|' : ' ';
     text += signAt(tick);
   }
   return text + "\n";
 }
 
-char signAt(const Grid& grid, std::string_view row, WholeNumber tick) {
-  const auto found = grid.marks.find({row, tick});
+template <typename Voice>
+char signAt(const Grid<Voice>& grid, Voice voice, WholeNumber tick) {
+  const auto found = grid.marks.find({voice, tick});
   return found == grid.marks.end() ? '-' : found->second;
 }
 
-bool isUsed(const Grid& grid, std::string_view row) {
-  const auto first = grid.marks.lower_bound({row, 0});
-  return first != grid.marks.end() && first->first.first == row;
-}
-
-std::size_t widthOfLabels(const Grid& grid, std::span<const std::string_view> rows) {
-  std::size_t width = leastLabelWidth;
-  for (const std::string_view row : rows) {
-    if (isUsed(grid, row)) width = std::max(width, countColumns(labelText(row)) + 1);
+// The voices that do something, with their names in the language of this run.
+template <typename Voice, std::size_t count>
+std::vector<std::pair<Voice, std::string>> usedRows(const Grid<Voice>& grid,
+                                                    const std::array<Row<Voice>, count>& rows) {
+  std::vector<std::pair<Voice, std::string>> used;
+  for (const Row<Voice>& row : rows) {
+    const auto first = grid.marks.lower_bound({row.voice, 0});
+    if (first == grid.marks.end() || first->first.first != row.voice) continue;
+    used.emplace_back(row.voice, translated(row.name));
   }
-  return width;
+  return used;
 }
 
-std::string draw(const Grid& grid, std::span<const std::string_view> rows) {
+template <typename Voice, std::size_t count>
+std::string draw(const Grid<Voice>& grid, const std::array<Row<Voice>, count>& rows) {
   if (grid.length == 0) return translated("It takes no time.") + '\n';
-  const std::size_t labelWidth = widthOfLabels(grid, rows);
+  const auto used = usedRows(grid, rows);
+  std::size_t labelWidth = leastLabelWidth;
+  for (const auto& [voice, name] : used) labelWidth = std::max(labelWidth, countColumns(name) + 1);
   const WholeNumber column = columnOf(grid);
   const WholeNumber room = static_cast<WholeNumber>((pageWidth - labelWidth) / 2) * column;
   const WholeNumber atOnce = std::max<WholeNumber>(1, room / grid.bar) * grid.bar;
@@ -211,12 +231,11 @@ std::string draw(const Grid& grid, std::span<const std::string_view> rows) {
   for (WholeNumber begin = 0; begin < grid.length; begin += atOnce) {
     const WholeNumber end = std::min(grid.length, begin + atOnce);
     if (begin > 0) text += "\n";
-    text += rowText(padded("", labelWidth), grid, begin, end, column,
+    text += rowText(padded("", labelWidth), grid.bar, begin, end, column,
                     [&](WholeNumber tick) { return countSign(tick % grid.bar, column); });
-    for (const std::string_view row : rows) {
-      if (!isUsed(grid, row)) continue;
-      text += rowText(padded(labelText(row), labelWidth), grid, begin, end, column,
-                      [&](WholeNumber tick) { return signAt(grid, row, tick); });
+    for (const auto& row : used) {
+      text += rowText(padded(row.second, labelWidth), grid.bar, begin, end, column,
+                      [&](WholeNumber tick) { return signAt(grid, row.first, tick); });
     }
   }
   return text;
@@ -225,22 +244,19 @@ std::string draw(const Grid& grid, std::span<const std::string_view> rows) {
 }  // namespace
 
 std::string gridLegend() {
-  return translated("O loud   o medium   . soft   x muted") + '\n';
+  return translated("O loud   o medium   . soft   x muted   * rest") + '\n';
 }
 
 std::string drawGrid(const tonelake::ArpeggioSequence& pattern) {
-  return draw(layOut(pattern.sequence, pattern.timeSignature), arpeggioRows);
+  return draw(layOut<Picking>(pattern.sequence, pattern.timeSignature), arpeggioRows);
 }
 
 std::string drawGrid(const tonelake::BassPattern& pattern) {
-  return draw(layOut(pattern.bassNotes, pattern.timeSignature), bassRows);
+  return draw(layOut<BassPitch>(pattern.bassNotes, pattern.timeSignature), bassRows);
 }
 
 std::string drawGrid(const tonelake::DrumPattern& pattern) {
-  std::array<std::string_view, drumRows.size()> labels;
-  std::transform(drumRows.begin(), drumRows.end(), labels.begin(),
-                 [](const DrumRow& row) { return row.label; });
-  return draw(layOut(pattern.drumNotes, pattern.timeSignature), labels);
+  return draw(layOut<DrumNoteType>(pattern.drumNotes, pattern.timeSignature), drumRows);
 }
 
 }  // namespace zyndle

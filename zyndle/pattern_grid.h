@@ -6,14 +6,14 @@
 
 namespace zyndle {
 
-/// A pattern as a grid in ASCII: a row for each voice, a column for each moment.
+/// A pattern as a grid of signs in ASCII: a row for each voice, a column for each moment.
 ///
-///               |1 & 2 & 3 & 4 &
-///     fingers   |- - - . - - - .
-///     thumb     |O - - - o - - -
+///                 |1 & 2 & 3 & 4 &
+///     finger up   |- - - . - - - .
+///     thumb       |O - - - o - - -
 ///
-/// O is loud, o medium, . soft and x muted. Bars are drawn beside each other as far as a page is
-/// wide. The names of the rows are in the language of this run.
+/// O is loud, o medium, . soft, x muted, * a rest and - nothing new. Bars are drawn beside each
+/// other as far as a page is wide. The names of the rows are in the language of this run.
 std::string drawGrid(const tonelake::ArpeggioSequence& pattern);
 std::string drawGrid(const tonelake::BassPattern& pattern);
 std::string drawGrid(const tonelake::DrumPattern& pattern);
