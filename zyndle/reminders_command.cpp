@@ -66,7 +66,8 @@ void addExport(CLI::App& command, Action& action) {
   const auto options = std::make_shared<MonthOptions>();
   const auto file = std::make_shared<std::string>();
   addMonthOptions(app, *options);
-  app.add_option("-o", *file, translated("The iCalendar file to write, - for standard output"))
+  app.add_option("-o,--output", *file,
+                 translated("The iCalendar file to write, - for standard output"))
       ->required()
       ->type_name("FILE");
   app.callback(

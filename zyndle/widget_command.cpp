@@ -1,6 +1,7 @@
 #include "zyndle/widget_command.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -93,17 +94,10 @@ const WidgetDescription& readWidget(const std::string& name) {
   return *widget;
 }
 
-// The chord of the day is drawn in every family, also in those that it does not offer to hosts.
-std::vector<WidgetFamily> drawableFamilies(const WidgetDescription& widget) {
-  const bool isChord = widget.kind == todaychord::chordWidgetKind;
-  const auto families = isChord ? WidgetFamily::allCases() : widget.families;
-  return {families.begin(), families.end()};
-}
-
 WidgetFamily readFamily(const WidgetOptions& options, const WidgetDescription& widget) {
   if (!options.family) return widget.families.front();
   const std::optional<WidgetFamily> family = WidgetFamily::fromRawValue(*options.family);
-  const std::vector<WidgetFamily> families = drawableFamilies(widget);
+  const std::vector<WidgetFamily> families = drawnFamilies(widget);
   if (family && std::find(families.begin(), families.end(), *family) != families.end()) {
     return *family;
   }
@@ -123,10 +117,15 @@ const SceneFormat* findFormat(std::string_view name, std::span<const SceneFormat
 // As it is asked for; else what the file is named for: today.png is to be a PNG.
 std::string formatName(const WidgetOptions& options) {
   if (options.format) return *options.format;
-  const std::string_view file = options.file;
-  const std::string_view ending = file.substr(std::min(file.rfind('.'), file.size() - 1) + 1);
-  const SceneFormat* format = findFormat(ending, formats);
-  return format == nullptr ? "svg" : format->name;
+  std::string ending = std::filesystem::path(options.file).extension();
+  if (ending.size() <= 1) return "svg";
+  std::transform(ending.begin(), ending.end(), ending.begin(), tonelake::lowercase);
+  const SceneFormat* format = findFormat(ending.substr(1), formats);
+  if (format != nullptr) return format->name;
+  // TRANSLATORS: {0} is an option, {1} the name of a file, {2} a list, {3} another option:
+  // -o "today.jpg" ends in none of svg, png; say which with --format.
+  refuse(translated("{0} {1} ends in none of {2}; say which with {3}", "-o",
+                    tonelake::quoted(options.file), listNames(formats), "--format"));
 }
 
 // How the scene is written here; nullptr where another program has to do it.
@@ -181,7 +180,9 @@ void addWidgetCommand(CLI::App& app, Action& action, Arguments arguments,
       ->type_name("FORMAT");
   command.add_option("--scale", options->scale, translated("Pixels a point, for png; else 2"))
       ->type_name("NUMBER");
-  command.add_option("-o", options->file, translated("Write to a file, not to standard output"))
+  command
+      .add_option("-o,--output", options->file,
+                  translated("Write to a file, not to standard output"))
       ->type_name("FILE");
   command.callback([=, &action] { action = [=] { showWidget(*options, arguments, more); }; });
 }

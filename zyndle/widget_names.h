@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 #include "TodayChordExtension/widgets/today_chord_bundle.h"
 
@@ -18,5 +19,9 @@ inline constexpr WidgetName widgetNames[] = {
     {"recent", todaychord::recentChordsWidgetKind},
     {"collections", todaychord::collectionsWidgetKind},
 };
+
+/// The families that a widget is drawn in, from small to large, then accessories: those that it
+/// offers to hosts, and for the chord of the day the two of a screen that has room.
+std::vector<todaychord::WidgetFamily> drawnFamilies(const todaychord::WidgetDescription& widget);
 
 }  // namespace zyndle

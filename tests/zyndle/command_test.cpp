@@ -192,7 +192,7 @@ TEST_F(Command, AsciiIsAsciiThroughout) {
         {"chord", "Cdim7", "--ascii"},
         {"today", "--ascii", "--category", "jazz"},
         {"chord", "F#maj77", "--ascii"},
-        {"connect", "F#13", "--tuning", "CCCCCC", "--ascii"}}) {
+        {"connect", "F#7", "--tuning", "CCCCCC", "--ascii"}}) {
     const ProgramResult result = run(arguments);
     const std::string text = result.output + result.errors;
     EXPECT_FALSE(text.empty());
@@ -260,6 +260,14 @@ TEST_F(Command, DrawsEveryWidget) {
     EXPECT_THAT(svg.output, AllOf(StartsWith("<svg "), HasSubstr(link))) << kind;
     EXPECT_THAT(json({"widget", kind, "--format", "json"}).dump(), HasSubstr(link)) << kind;
     EXPECT_THAT(run({"widget", kind, "--format", "pdf"}).output, StartsWith("%PDF-")) << kind;
+  }
+  // What a file is to be stands in its name, and a folder's name tells nothing.
+  std::filesystem::create_directory(folder_.path("a.pdf"));
+  const std::pair<const char*, const char*> files[] = {{"today.PNG", "\x89PNG"},
+                                                       {"a.pdf/today", "<svg "}};
+  for (const auto& [file, start] : files) {
+    EXPECT_EQ(run({"widget", "chord", "-o", folder_.path(file)}).errors, "");
+    EXPECT_THAT(desktop::readFile(folder_.path(file), 1 << 20).value_or(""), StartsWith(start));
   }
   // The width stands 16 bytes behind the start of a PNG, two of its bytes being enough here.
   const ProgramResult png = run({"widget", "chord", "--format", "png", "--scale", "3"});

@@ -15,15 +15,6 @@ std::string nameOf(std::string_view kind) {
   return std::string(kind);
 }
 
-// What hosts are offered, and the two of a screen that has room.
-std::vector<WidgetFamily> exhibitedFamilies(const todaychord::WidgetDescription& widget) {
-  std::vector<WidgetFamily> families(widget.families.begin(), widget.families.end());
-  if (widget.kind == todaychord::chordWidgetKind) {
-    families.insert(families.end(), {WidgetFamily::large, WidgetFamily::extraLarge});
-  }
-  return families;
-}
-
 }  // namespace
 
 std::string GalleryPicture::fileName(std::string_view extension) const {
@@ -34,7 +25,7 @@ std::vector<GalleryPicture> drawGallery(const std::vector<WidgetTimelines::Shown
                                         const todaychord::ViewSettings& settings) {
   std::vector<GalleryPicture> pictures;
   for (const WidgetTimelines::Shown& shown : widgets) {
-    for (const WidgetFamily family : exhibitedFamilies(*shown.widget)) {
+    for (const WidgetFamily family : drawnFamilies(*shown.widget)) {
       pictures.push_back({shown.widget->displayName, nameOf(shown.widget->kind), family,
                           todaychord::drawWidget(shown.entry, family, settings)});
     }

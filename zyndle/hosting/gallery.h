@@ -22,8 +22,7 @@ struct GalleryPicture {
   std::string fileName(std::string_view extension) const;  ///< "chord-small.svg"
 };
 
-/// Every widget in every family that it is drawn in: those that it offers to hosts, and for the
-/// chord of the day the two large ones too.
+/// Every widget in every family that it is drawn in, see drawnFamilies.
 std::vector<GalleryPicture> drawGallery(const std::vector<WidgetTimelines::Shown>& widgets,
                                         const todaychord::ViewSettings& settings);
 
