@@ -5,12 +5,11 @@
 #include <vector>
 
 #include <CLI/CLI.hpp>
-#include <fmt/format.h>
 
 #include "TodayChordExtension/widgets/shared_data.h"
 #include "TodayChordExtension/widgets/shared_settings.h"
 #include "Tonelake/foundation/text.h"
-#include "Tonelake/platform/platform.h"
+#include "Tonelake/foundation/uuid.h"
 #include "zyndle/chord_name.h"
 #include "zyndle/command_error.h"
 #include "zyndle/host.h"
@@ -42,20 +41,13 @@ struct CollectionOptions {
   std::vector<std::string> chords;
 };
 
-// Nobody reads it: it only has to differ from every other one.
-std::string newIdentifier() {
-  tonelake::RandomSource& random = *tonelake::processPlatform().random;
-  const auto first = random.next();
-  return fmt::format("{:016x}{:016x}", first, random.next());
-}
-
 WidgetChordCollection readCollection(const CollectionOptions& options) {
   if (options.title.find_first_not_of(" \t\n") == std::string::npos)
     refuse(translated("{} is empty", "TITLE"));
   if (!tonelake::isValidUtf8(options.title)) {
     refuse(translated("{0} {1} is not valid UTF-8", "TITLE", tonelake::quoted(options.title)));
   }
-  WidgetChordCollection collection{newIdentifier(), options.title, "", {}};
+  WidgetChordCollection collection{tonelake::Uuid::random().text(), options.title, "", {}};
   for (const std::string& name : options.chords) collection.chords.push_back(readChordName(name));
   return collection;
 }

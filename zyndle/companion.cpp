@@ -10,16 +10,13 @@
 #include "zyndle/translation.h"
 
 namespace zyndle {
-namespace {
 
-std::filesystem::path ownFolder() {
+std::filesystem::path ownProgram() {
   std::error_code error;
-  const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
+  std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
   if (error) fail(translated("cannot tell where this program is installed: {}", error.message()));
-  return program.parent_path();
+  return program;
 }
-
-}  // namespace
 
 void addCompanionCommand(CLI::App& app, Action& action, Arguments arguments,
                          const Companion& companion) {
@@ -32,7 +29,7 @@ void addCompanionCommand(CLI::App& app, Action& action, Arguments arguments,
 }
 
 std::optional<std::filesystem::path> findCompanion(const char* program) {
-  const std::filesystem::path folder = ownFolder();
+  const std::filesystem::path folder = ownProgram().parent_path();
   for (const auto& place : {folder, folder / ".." / "libexec" / "zyndle"}) {
     if (::access((place / program).c_str(), X_OK) == 0) return place / program;
   }
@@ -49,7 +46,7 @@ void becomeCompanion(const char* program, Arguments arguments) {
     ::execv(path->c_str(), list.data());
   }
   fail(translated("{0} is missing: it should be installed beside zyndle, in {1}", program,
-                  ownFolder().string()));
+                  ownProgram().parent_path().string()));
 }
 
 }  // namespace zyndle

@@ -6,8 +6,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include "Tonelake/chords/chord_json.h"
-#include "Tonelake/chords/chord_naming.h"
 #include "zyndle/chord_row.h"
 #include "zyndle/connected_shapes.h"
 #include "zyndle/drawing.h"
@@ -44,21 +42,6 @@ struct ConnectOptions {
   OutputOptions output;
 };
 
-std::string jsonOf(const std::vector<Chord>& chords, const std::vector<Voicing>& row,
-                   const Instrument& instrument) {
-  tonelake::json::Value object;
-  object["tuning"] = instrument.tuning;
-  object["capo"] = instrument.capo;
-  object["chords"] = tonelake::json::Value::array();
-  for (std::size_t i = 0; i < row.size(); ++i) {
-    tonelake::json::Value& entry = object["chords"].emplace_back();
-    entry["chord"] = tonelake::encodeChord(chords[i]);
-    entry["title"] = tonelake::Chords::getTitleForChord(chords[i]);
-    entry["voicing"] = encodeVoicing(row[i]);
-  }
-  return tonelake::json::write(object) + '\n';
-}
-
 std::string textOf(const std::vector<Chord>& chords, const std::vector<Voicing>& row,
                    const Instrument& instrument, const DrawingStyle& style) {
   const std::string rows = instrumentRows(instrument);
@@ -73,7 +56,7 @@ void showConnected(const ConnectOptions& options) {
   const std::vector<Chord> chords = readChordRow(options.names);
   const std::vector<Voicing> row = connectShapes(chords, instrument);
   writeText(options.output, options.output.json
-                                ? jsonOf(chords, row, instrument)
+                                ? tonelake::json::write(encodeRow(chords, row, instrument)) + '\n'
                                 : textOf(chords, row, instrument, drawingStyle(options.output)));
 }
 

@@ -91,15 +91,7 @@ std::string jsonOf(const ShownProgression& shown) {
   ChordProgression described = shown.progression;
   described.description = ChordProgressions::getDescription(described, shown.key);
   object.update(tonelake::encodeChordProgression(described));
-  object["tuning"] = shown.instrument.tuning;
-  object["capo"] = shown.instrument.capo;
-  object["chords"] = tonelake::json::Value::array();
-  for (std::size_t i = 0; i < shown.chords.size(); ++i) {
-    tonelake::json::Value& entry = object["chords"].emplace_back();
-    entry["chord"] = tonelake::encodeChord(shown.chords[i]);
-    entry["title"] = nameOfKey(shown.chords[i]);
-    entry["voicing"] = encodeVoicing(shown.row[i]);
-  }
+  object.update(encodeRow(shown.chords, shown.row, shown.instrument));
   return tonelake::json::write(object) + '\n';
 }
 

@@ -10,6 +10,7 @@
 #include "Desktop/settings_files.h"
 #include "zyndle/child_process.h"
 #include "zyndle/command_error.h"
+#include "zyndle/companion.h"
 #include "zyndle/output.h"
 #include "zyndle/reminder_units.h"
 #include "zyndle/translation.h"
@@ -32,10 +33,7 @@ filesystem::path unitFolder() {
 }
 
 DeliveryCommand deliveryCommand() {
-  std::error_code error;
-  const filesystem::path program = filesystem::read_symlink("/proc/self/exe", error);
-  if (error) fail(translated("cannot tell where {0} is installed: {1}", "zyndle", error.message()));
-  return {program.string(), absoluteVariable("XDG_DATA_HOME")};
+  return {ownProgram().string(), absoluteVariable("XDG_DATA_HOME")};
 }
 
 std::string busAddress() {

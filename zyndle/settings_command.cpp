@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 
 #include "Tonelake/foundation/text.h"
+#include "zyndle/category_option.h"
 #include "zyndle/command_error.h"
 #include "zyndle/known_settings.h"
 #include "zyndle/output.h"
@@ -92,9 +93,8 @@ void checkValue(const KnownSetting& known, const std::string& value) {
   const std::string key(known.key);
   switch (known.type) {
     case SettingType::text:
-      if (tonelake::ChordCategory::fromRawValue(value)) return;
-      refuse(translated("{0} {1} is not one of {2}", key, tonelake::quoted(value),
-                        "beginner, advanced, jazz"));
+      readCategory(key, value);
+      return;
     case SettingType::boolean:
       if (value == "true" || value == "false") return;
       refuse(translated("{0} {1} is not one of {2}", key, tonelake::quoted(value), "true, false"));

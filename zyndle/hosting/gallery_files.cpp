@@ -1,23 +1,14 @@
 #include "zyndle/hosting/gallery_files.h"
 
-#include "Desktop/cairo_renderer.h"
 #include "Desktop/embedded_fonts.h"
 #include "Desktop/file_replacement.h"
 #include "Desktop/svg_renderer.h"
 #include "zyndle/command_error.h"
 #include "zyndle/hosting/embedded_web.h"
+#include "zyndle/hosting/painted_pictures.h"
 #include "zyndle/output.h"
 
 namespace zyndle {
-namespace {
-
-std::string drawPng(const todaychord::Scene& scene, double scale) {
-  desktop::RenderedPicture png = desktop::renderPng(scene, scale);
-  if (!png.problem.empty()) fail(png.problem);
-  return std::move(png.bytes);
-}
-
-}  // namespace
 
 void prepareGallery(const GalleryOptions& options) {
   const std::string fonts = options.folder + "/fonts/";
@@ -37,7 +28,7 @@ void writeGallery(const GalleryOptions& options, const std::vector<GalleryPictur
   for (const GalleryPicture& picture : pictures) {
     write(picture.fileName("svg"),
           desktop::renderSvg(picture.scene, {.idPrefix = "", .isPluckable = true}));
-    if (options.scale) write(picture.fileName("png"), drawPng(picture.scene, *options.scale));
+    if (options.scale) write(picture.fileName("png"), paintPng(picture.scene, *options.scale));
   }
   write("index.html", writeGalleryPage(pictures, options.secondsToReload));
 }

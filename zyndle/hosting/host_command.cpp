@@ -1,5 +1,6 @@
 #include "zyndle/hosting/host_command.h"
 
+#include <functional>
 #include <memory>
 
 #include <CLI/CLI.hpp>
@@ -71,11 +72,11 @@ void hostWidgets(const FolderOptions& options) {
   SystemWakeUps wakeUps(desktop::settingsFiles().shared);
   reportProblem(wakeUps.problem());
   prepareGallery(gallery);
-  const auto keeper = std::make_shared<GalleryKeeper>(gallery, sources);
+  GalleryKeeper keeper(gallery, sources);
   ReminderProcess reminders;
   // Whatever else a host does from time to time becomes a duty in this list.
   const std::vector<HostDuty> duties{
-      [keeper](WakeUp reason, tonelake::Instant now) { return (*keeper)(reason, now); },
+      std::ref(keeper),
       [&reminders](WakeUp, tonelake::Instant) {
         reminders.keepRunning();
         return std::optional<tonelake::Instant>();
