@@ -54,9 +54,11 @@ _zyndle_values() { # PREVIOUS COMMAND...
 _zyndle() { # PROGRAM TYPED PREVIOUS
   local program=$1 typed=$2 previous=$3 commands=() IFS=$'\n'
   local -i index
+  [[ $previous != '=' ]] || previous=${COMP_WORDS[COMP_CWORD - 2]}
   for ((index = 1; index < COMP_CWORD; ++index)); do
     case ${COMP_WORDS[index]} in
-      --lang) ((++index)) ;;
+      # Readline makes three words of --lang=de.
+      --lang) [[ ${COMP_WORDS[++index]} != '=' ]] || ((++index)) ;;
       -*) break ;;
       *) commands+=("${COMP_WORDS[index]}") ;;
     esac
