@@ -89,8 +89,7 @@ FileKind readFileKind(const JamOptions& options) {
     refuse(translated("say where the music goes, with {0} or {1}", "-o FILE", "--play"));
   }
   if (!options.file) return FileKind::none;
-  std::string name = *options.file;
-  std::transform(name.begin(), name.end(), name.begin(), tonelake::lowercase);
+  const std::string name = tonelake::inSmallLetters(*options.file);
   if (name == "-" || name.ends_with(".mid") || name.ends_with(".midi")) return FileKind::midi;
   if (name.ends_with(".wav")) return FileKind::wav;
   refuse(translated("{0} {1} ends neither in .mid nor in .wav", "-o",

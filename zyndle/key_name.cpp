@@ -31,8 +31,7 @@ Parts splitKey(std::string_view key) {
 std::optional<std::string> typeOf(std::string_view quality, const std::string& typeOfRoot) {
   if (quality.empty()) return typeOfRoot;
   if (quality == "M") return "major";  // the one letter whose case tells
-  std::string small(quality);
-  std::transform(small.begin(), small.end(), small.begin(), tonelake::lowercase);
+  const std::string small = tonelake::inSmallLetters(quality);
   if (small == "major" || small == "maj") return "major";
   if (small == "minor" || small == "min" || small == "m") return "minor";
   return std::nullopt;

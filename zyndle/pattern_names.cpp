@@ -47,12 +47,6 @@ void readParts(tonelake::PatternLibrary& library, const std::string& file) {
   }
 }
 
-std::string lowercase(std::string_view text) {
-  std::string result(text);
-  std::transform(result.begin(), result.end(), result.begin(), tonelake::lowercase);
-  return result;
-}
-
 }  // namespace
 
 tonelake::PatternLibrary readLibrary(const std::optional<std::string>& file) {
@@ -62,17 +56,17 @@ tonelake::PatternLibrary readLibrary(const std::optional<std::string>& file) {
 }
 
 bool isSameName(std::string_view one, std::string_view other) {
-  return lowercase(one) == lowercase(other);
+  return tonelake::inSmallLetters(one) == tonelake::inSmallLetters(other);
 }
 
 std::string describeNearest(std::string_view name, const std::vector<std::string>& known) {
   constexpr std::size_t handful = 3;
   constexpr std::size_t longestName = 64;
   if (name.size() > longestName) return "";
-  const std::string wanted = lowercase(name);
+  const std::string wanted = tonelake::inSmallLetters(name);
   std::vector<std::pair<std::size_t, std::string>> ranked;
   for (const std::string& candidate : known) {
-    const std::string own = lowercase(candidate);
+    const std::string own = tonelake::inSmallLetters(candidate);
     const bool isPart = !wanted.empty() && own.find(wanted) != std::string::npos;
     const std::size_t distance = isPart ? 0 : editDistance(wanted, own, longestName);
     if (isPart || distance * 2 <= own.size()) ranked.emplace_back(distance, candidate);

@@ -117,10 +117,9 @@ const SceneFormat* findFormat(std::string_view name, std::span<const SceneFormat
 // As it is asked for; else what the file is named for: today.png is to be a PNG.
 std::string formatName(const WidgetOptions& options) {
   if (options.format) return *options.format;
-  std::string ending = std::filesystem::path(options.file).extension();
+  const std::string ending = std::filesystem::path(options.file).extension();
   if (ending.size() <= 1) return "svg";
-  std::transform(ending.begin(), ending.end(), ending.begin(), tonelake::lowercase);
-  const SceneFormat* format = findFormat(ending.substr(1), formats);
+  const SceneFormat* format = findFormat(tonelake::inSmallLetters(ending.substr(1)), formats);
   if (format != nullptr) return format->name;
   // TRANSLATORS: {0} is an option, {1} the name of a file, {2} a list, {3} another option:
   // -o "today.jpg" ends in none of svg, png; say which with --format.
