@@ -135,9 +135,10 @@ class DiagramDrawing {
   void drawMarks() {
     for (int string = 0; string < metrics::stringCount; ++string) {
       const auto i = static_cast<std::size_t>(string);
-      if (i >= layout_.displayedFrets.size() || layout_.displayedFrets[i] > 0) continue;
-      canvas_.draw(column(string), firstLine_,
-                   layout_.displayedFrets[i] == 0 ? characters_.open : characters_.muted);
+      if (i >= layout_.displayedFrets.size()) break;
+      const WholeNumber row = layout_.displayedFrets[i];
+      if (row > 0 || row == todaychord::noRow) continue;
+      canvas_.draw(column(string), firstLine_, row == 0 ? characters_.open : characters_.muted);
     }
   }
 

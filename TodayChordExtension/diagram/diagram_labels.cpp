@@ -31,9 +31,10 @@ SceneItems drawMarks(const ChordView& view, const DiagramLayout& layout) {
   SceneItems items;
   for (int i = 0; i < metrics::stringCount; ++i) {
     const auto string = static_cast<std::size_t>(i);
-    if (string >= layout.displayedFrets.size() || layout.displayedFrets[string] > 0) continue;
-    items.push_back({layout.displayedFrets[string] == 0 ? drawOpenMark(stringX(i), view)
-                                                        : drawMutedMark(stringX(i), view)});
+    if (string >= layout.displayedFrets.size()) break;
+    const WholeNumber row = layout.displayedFrets[string];
+    if (row > 0 || row == noRow) continue;
+    items.push_back({row == 0 ? drawOpenMark(stringX(i), view) : drawMutedMark(stringX(i), view)});
   }
   return items;
 }

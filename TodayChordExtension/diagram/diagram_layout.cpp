@@ -13,6 +13,7 @@ namespace {
 using tonelake::Note;
 
 constexpr WholeNumber muted = -1;
+constexpr WholeNumber noFinger = -1;
 
 double at(double first, double pitch, WholeNumber index) {
   return first + pitch * static_cast<double>(index);
@@ -39,6 +40,13 @@ WholeNumbers displayFrets(const WholeNumbers& position, WholeNumber baseFret) {
   return rows;
 }
 
+// For the left hand: the lowest string on the right, with `missing` where a short list ends.
+WholeNumbers mirrored(WholeNumbers values, WholeNumber missing) {
+  values.resize(metrics::stringCount, missing);
+  std::reverse(values.begin(), values.end());
+  return values;
+}
+
 std::vector<FingerDot> placeDots(const WholeNumbers& frets, const WholeNumbers& fingers) {
   std::vector<FingerDot> dots;
   for (std::size_t i = 0; i < frets.size(); ++i) {
@@ -46,7 +54,7 @@ std::vector<FingerDot> placeDots(const WholeNumbers& frets, const WholeNumbers& 
     const auto string = static_cast<int>(i);
     dots.push_back({string, at(metrics::firstDotX, metrics::stringPitch, string),
                     at(metrics::dotCentre, metrics::rowPitch, frets[i]),
-                    i < fingers.size() ? fingers[i] : -1});
+                    i < fingers.size() ? fingers[i] : noFinger});
   }
   return dots;
 }
@@ -118,8 +126,9 @@ DiagramLayout layOutDiagram(const ChordView& view, double width) {
   layout.displayedFrets = displayFrets(view.position, layout.baseFret);
   WholeNumbers fingers = view.fingering;
   if (view.isLeftHanded) {
-    std::reverse(layout.displayedFrets.begin(), layout.displayedFrets.end());
-    std::reverse(fingers.begin(), fingers.end());
+    fingers.resize(view.position.size(), noFinger);  // those of other strings hold nothing
+    layout.displayedFrets = mirrored(layout.displayedFrets, noRow);
+    fingers = mirrored(fingers, noFinger);
   }
   layout.dots = placeDots(layout.displayedFrets, fingers);
   layout.barres = placeBarres(layout.displayedFrets, fingers);

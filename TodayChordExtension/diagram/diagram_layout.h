@@ -1,5 +1,6 @@
 #pragma once
 
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -56,11 +57,14 @@ struct NoteLabel {
   friend bool operator==(const NoteLabel&, const NoteLabel&) = default;
 };
 
+/// In place of a row, for a string that a left-handed view has no fret for: nothing is drawn there.
+inline constexpr WholeNumber noRow = std::numeric_limits<WholeNumber>::min();
+
 /// Where everything that depends on the fingering lies.
 struct DiagramLayout {
   double scale = 1;                   ///< pixels per design unit
   WholeNumber baseFret = 1;           ///< fret of row 1
-  WholeNumbers displayedFrets;        ///< row per string in display order; -1 muted, 0 open
+  WholeNumbers displayedFrets;        ///< row per string in display order; -1 muted, 0 open, noRow
   std::vector<FingerDot> dots;        ///< one for each pressed string
   std::vector<BarreSegment> barres;   ///< each from one string of a finger to its next
   std::vector<NoteLabel> noteLabels;  ///< none unless the view displays notes
@@ -69,7 +73,8 @@ struct DiagramLayout {
 /// Pixels per design unit in a view `width` wide, never below 0.5.
 TONELAKE_API double diagramScale(double width);
 
-/// The layout of a view `width` wide. Lists that do not hold six values place what they have.
+/// The layout of a view `width` wide. Lists that do not hold six values place what they have, from
+/// the lowest string on.
 TONELAKE_API DiagramLayout layOutDiagram(const ChordView& view, double width);
 
 }  // namespace todaychord

@@ -100,6 +100,15 @@ TEST(DiagramLayout, PlacesWhatIncompleteListsHave) {
   const DiagramLayout layout = layOutDiagram(viewOf({}, {1, 2, 2}, {1}), 135);
   EXPECT_EQ(layout.dots.size(), 3U);
   EXPECT_TRUE(layout.barres.empty());
+  // The lowest string is the rightmost for the left hand, however many follow it.
+  ChordView left = viewOf({}, {3, 2, 0}, {3, 2, 0, 1, 1, 1});
+  left.isLeftHanded = true;
+  const DiagramLayout mirrored = layOutDiagram(left, 135);
+  EXPECT_EQ(mirrored.displayedFrets, (WholeNumbers{noRow, noRow, noRow, 0, 2, 3}));
+  ASSERT_EQ(mirrored.dots.size(), 2U);
+  EXPECT_EQ(mirrored.dots[0], (FingerDot{4, 82.5, 59, 2}));
+  EXPECT_EQ(mirrored.dots[1], (FingerDot{5, 96.5, 82, 3}));
+  EXPECT_TRUE(mirrored.barres.empty());
   EXPECT_TRUE(layOutDiagram(viewOf({}, {}, {1, 1, 1, 1, 1, 1}), 135).barres.empty());
 }
 
