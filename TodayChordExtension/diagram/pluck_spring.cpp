@@ -1,10 +1,18 @@
 #include "TodayChordExtension/diagram/pluck_spring.h"
 
 #include <cmath>
+#include <string>
+
+#include "TodayChordExtension/diagram/diagram_metrics.h"
+#include "Tonelake/foundation/fatal.h"
 
 namespace todaychord {
 
 PluckSpring pluckSpring(int stringNumber) {
+  if (stringNumber < 1 || stringNumber > metrics::stringCount) {
+    tonelake::stopWithProgrammingError("pluckSpring: no string has the number " +
+                                       std::to_string(stringNumber));
+  }
   constexpr double base = 7000;
   constexpr double perString = 1000;
   PluckSpring spring;
