@@ -8,6 +8,7 @@
 
 #include "TodayChordExtension/diagram/diagram_palette.h"
 #include "TodayChordExtension/diagram/diagram_places.h"
+#include "TodayChordExtension/diagram/scene_items.h"
 #include "TodayChordExtension/diagram/scene_shapes.h"
 #include "Tonelake/fingering/finger_rules.h"
 
@@ -102,10 +103,8 @@ SceneItems drawBarres(const ChordView& view, const DiagramLayout& layout) {
     bars.push_back(drawCompanion(roundedRectangle(
         {x, y - companionHeight / 2 + metrics::companionDrop, barre.width, companionHeight},
         companionRadii)));
-    for (SceneItem& item :
-         drawSurface(roundedRectangle({x, y - height / 2, barre.width, height}, {}), y, view)) {
-      bars.push_back(std::move(item));
-    }
+    append(bars,
+           drawSurface(roundedRectangle({x, y - height / 2, barre.width, height}, {}), y, view));
   }
   return bars;
 }

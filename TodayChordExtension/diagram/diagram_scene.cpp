@@ -1,12 +1,11 @@
 #include "TodayChordExtension/diagram/diagram_scene.h"
 
-#include <utility>
-
 #include "TodayChordExtension/diagram/diagram_board.h"
 #include "TodayChordExtension/diagram/diagram_labels.h"
 #include "TodayChordExtension/diagram/diagram_layout.h"
 #include "TodayChordExtension/diagram/diagram_markers.h"
 #include "TodayChordExtension/diagram/fingering_instructions.h"
+#include "TodayChordExtension/diagram/scene_items.h"
 #include "TodayChordExtension/diagram/scene_placement.h"
 #include "TodayChordExtension/diagram/scene_shapes.h"
 #include "TodayChordExtension/diagram/text_width.h"
@@ -29,18 +28,15 @@ double diagramHeight(const ChordView& view) {
 // In design units, from the board up to what lies on it.
 SceneItems drawParts(const ChordView& view, const DiagramLayout& layout) {
   SceneItems items;
-  const auto add = [&](SceneItems part) {
-    for (SceneItem& item : part) items.push_back(std::move(item));
-  };
-  add(drawBoard(view));
-  add(drawStrings(view, layout));
-  add(drawNut(view, layout));
-  add(drawBeds(view, layout));
-  add(drawBarres(view, layout));
-  add(drawDots(view, layout));
-  add(drawMarks(view, layout));
-  add(drawBaseFret(view, layout));
-  add(drawNoteLabels(view, layout));
+  append(items, drawBoard(view));
+  append(items, drawStrings(view, layout));
+  append(items, drawNut(view, layout));
+  append(items, drawBeds(view, layout));
+  append(items, drawBarres(view, layout));
+  append(items, drawDots(view, layout));
+  append(items, drawMarks(view, layout));
+  append(items, drawBaseFret(view, layout));
+  append(items, drawNoteLabels(view, layout));
   return items;
 }
 
@@ -72,9 +68,7 @@ Scene drawDiagramCard(const ChordView& view, const std::string& title, double wi
   addText(title, metrics::cardTitleFontSize, metrics::cardTitleBaseline, palette::cardTitle);
   addText(tones, metrics::cardTonesFontSize, metrics::cardTonesBaseline, palette::accent);
   const Scene diagram = drawDiagram(view, metrics::designWidth);
-  for (SceneItem& item : placed(diagram.items, {{metrics::cardDiagramX, metrics::cardDiagramY}})) {
-    items.push_back(std::move(item));
-  }
+  append(items, placed(diagram.items, {{metrics::cardDiagramX, metrics::cardDiagramY}}));
   const double scale = width / metrics::cardWidth;
   return {width, height * scale, title, diagram.description, placed(items, {{0, 0}, scale})};
 }

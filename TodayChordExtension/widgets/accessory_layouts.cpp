@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "TodayChordExtension/diagram/diagram_places.h"
 #include "TodayChordExtension/diagram/scene_shapes.h"
 #include "TodayChordExtension/widgets/widget_chord.h"
 #include "TodayChordExtension/widgets/widget_metrics.h"
@@ -30,7 +31,7 @@ SceneItem drawTitle(const std::string& title, const Rectangle& frame, const Titl
   if (title.empty()) return {drawCentred(stackIcon, frame, shape.icon, widgetPalette::title)};
   const TextStyle style{{shape.font, shape.fontSize}, widgetPalette::heading, TextAnchor::middle};
   TextItem line = fitLine(title, style, middleOf(frame), shape.width);
-  line.baseline.y = middleBaseline(frame.y, frame.height, line.font.size);
+  line.baseline.y = baselineAround(line.baseline.y, line.font.size);
   return {line};
 }
 

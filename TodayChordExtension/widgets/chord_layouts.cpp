@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "TodayChordExtension/diagram/scene_items.h"
 #include "TodayChordExtension/widgets/widget_chord.h"
 #include "TodayChordExtension/widgets/widget_metrics.h"
 #include "TodayChordExtension/widgets/widget_palette.h"
@@ -41,16 +42,7 @@ class Column {
   TextAnchor anchor_;
 };
 
-// The diagram with its board's middle at `middleX`, or an icon in the middle of where it would be.
-SceneItem drawPicture(const DayChord& chord, double middleX, double top, double scale,
-                      double iconSide) {
-  if (chord.diagram) return drawDiagramAt(*chord.diagram, middleX, top, scale);
-  const double height = widgetMetrics::diagramInk * scale;
-  return {drawCentred(stackIcon, {middleX - height / 2, top, height, height}, iconSide,
-                      widgetPalette::quietIcon)};
-}
-
-// "x 3 2 0 1 0": what a string has, lowest string first; `none` for those that have nothing.
+// "x  3  2  0  1  0": what a string has, lowest string first; `none` for those that have nothing.
 std::string listStrings(const WholeNumbers& values, WholeNumber least, const char* none) {
   std::string list;
   for (const WholeNumber value : values) {
@@ -92,6 +84,14 @@ SceneItems drawFacts(const DayChord& chord) {
 
 }  // namespace
 
+SceneItem drawPicture(const std::optional<ChordView>& diagram, double middleX, double top,
+                      double scale, double iconSide) {
+  if (diagram) return drawDiagramAt(*diagram, middleX, top, scale);
+  const double height = widgetMetrics::diagramInk * scale;
+  return {drawCentred(stackIcon, {middleX - height / 2, top, height, height}, iconSide,
+                      widgetPalette::quietIcon)};
+}
+
 SceneItems drawSmallLayout(const DayChord& chord, const Rectangle& frame) {
   namespace layout = widgetMetrics::smallChord;
   const double middle = frame.width / 2;
@@ -109,7 +109,7 @@ SceneItems drawSmallLayout(const DayChord& chord, const Rectangle& frame) {
   column.addText(title, {regularFont, layout::titleFont}, widgetPalette::title,
                  layout::titleBaseline);
   column.items.push_back(
-      drawPicture(chord, middle, layout::diagramY, layout::diagramScale, layout::icon));
+      drawPicture(chord.diagram, middle, layout::diagramY, layout::diagramScale, layout::icon));
   return column.items;
 }
 
@@ -122,7 +122,7 @@ SceneItems drawMediumLayout(const DayChord& chord, const Rectangle&) {
   column.addText(chordOfTheDayTones(chord.chord), {regularFont, widgetMetrics::footnote},
                  widgetPalette::subtitle, layout::tonesBaseline);
   column.addButton(layout::buttonY);
-  column.items.push_back(drawPicture(chord, layout::diagramMiddleX, layout::diagramY,
+  column.items.push_back(drawPicture(chord.diagram, layout::diagramMiddleX, layout::diagramY,
                                      layout::diagramScale, layout::icon));
   return column.items;
 }
@@ -137,7 +137,7 @@ SceneItems drawLargeLayout(const DayChord& chord, const Rectangle& frame) {
   column.addText(chordOfTheDayTones(chord.chord), {regularFont, layout::tonesFont},
                  widgetPalette::subtitle, layout::tonesBaseline);
   column.items.push_back(
-      drawPicture(chord, middle, layout::diagramY, layout::diagramScale, layout::icon));
+      drawPicture(chord.diagram, middle, layout::diagramY, layout::diagramScale, layout::icon));
   column.addButton(layout::buttonY);
   return column.items;
 }
@@ -149,7 +149,7 @@ SceneItems drawExtraLargeLayout(const DayChord& chord, const Rectangle&) {
   column.addText(chordOfTheDayTitle(chord.chord, titleLength), {regularFont, layout::titleFont},
                  widgetPalette::title, layout::titleBaseline);
   append(column.items, drawFacts(chord));
-  column.items.push_back(drawPicture(chord, layout::diagramMiddleX, layout::diagramY,
+  column.items.push_back(drawPicture(chord.diagram, layout::diagramMiddleX, layout::diagramY,
                                      layout::diagramScale, layout::icon));
   return column.items;
 }

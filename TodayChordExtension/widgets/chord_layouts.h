@@ -13,6 +13,11 @@ struct DayChord {
   std::optional<ChordView> diagram;
 };
 
+/// The diagram with its board's middle at `middleX` and its highest mark at `top`; where there is
+/// none an icon, `iconSide` points wide, in the middle of where it would be.
+SceneItem drawPicture(const std::optional<ChordView>& diagram, double middleX, double top,
+                      double scale, double iconSide);
+
 // The chord of the day in the families of the home screen; `frame` is the widget's. Without a
 // diagram the title stands alone, without a title an icon does.
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "TodayChordExtension/diagram/fingering_instructions.h"
+#include "TodayChordExtension/diagram/scene_items.h"
 #include "TodayChordExtension/widgets/accessory_layouts.h"
 #include "TodayChordExtension/widgets/chord_layouts.h"
 #include "TodayChordExtension/widgets/widget_chord.h"
@@ -15,7 +16,7 @@
 namespace todaychord {
 namespace {
 
-// A family's layout in its size; texts and diagram, without background.
+// How a family is drawn in its size: first its background, then texts and diagram over it.
 struct FamilyRow {
   WidgetFamily family;
   SceneItems (*drawBackground)(const Rectangle& frame);

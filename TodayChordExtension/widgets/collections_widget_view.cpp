@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "TodayChordExtension/diagram/diagram_places.h"
 #include "TodayChordExtension/diagram/icons.h"
+#include "TodayChordExtension/diagram/scene_items.h"
 #include "TodayChordExtension/diagram/scene_shapes.h"
 #include "TodayChordExtension/widgets/today_chord_bundle.h"
 #include "TodayChordExtension/widgets/widget_links.h"
@@ -59,7 +61,7 @@ SceneItems drawAllRow() {
                         layout::allRowHeight};
   SceneItems items = drawCard(frame, widgetPalette::toolCard);
   const Point baseline{frame.x + tall::cardPadding,
-                       middleBaseline(frame.y, frame.height, layout::allFont)};
+                       baselineAround(frame.y + frame.height / 2, layout::allFont)};
   const double chevronX = frame.x + frame.width - tall::cardPadding - layout::chevron;
   items.push_back(
       {fitLine(localized(allRowText), {{regularFont, layout::allFont}, widgetPalette::heading},
@@ -113,8 +115,7 @@ Scene drawCollectionsWidget(const CollectionsEntry& entry) {
   append(items, draw(WidgetSectionTitle{localized("Curated Chord Packs"),
                                         localized("Yours first, then ours")},
                      {tall::margin, tall::margin}, tall::width));
-  const double top =
-      tall::margin + widgetMetrics::sectionTitle::height + widgetMetrics::sectionTitle::gapBelow;
+  const double top = tall::margin + widgetMetrics::sectionTitle::contentsY;
   const double bottom = tall::bottom - layout::allRowHeight - tall::gap;
   append(items,
          draw(CollectionGrid{entry.collections}, {tall::margin, top, tall::width, bottom - top}));

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "TodayChordExtension/diagram/scene_items.h"
+#include "TodayChordExtension/widgets/chord_layouts.h"
 #include "TodayChordExtension/widgets/launcher_tools.h"
 #include "TodayChordExtension/widgets/today_chord_bundle.h"
 #include "TodayChordExtension/widgets/widget_chord.h"
@@ -48,8 +50,7 @@ SceneItems drawTools(double y) {
   SceneItems items = draw(WidgetSectionTitle{localized(launcherToolsSection),
                                              localized("Everything for your practice")},
                           {tall::margin, y}, tall::width);
-  const double top =
-      y + widgetMetrics::sectionTitle::height + widgetMetrics::sectionTitle::gapBelow;
+  const double top = y + widgetMetrics::sectionTitle::contentsY;
   const Rectangle grid{tall::margin, top, tall::width, tall::bottom - top};
   constexpr int rows = static_cast<int>(launcherTools.size()) / tall::columns;
   for (std::size_t i = 0; i < launcherTools.size(); ++i) {
@@ -83,12 +84,8 @@ SceneItems draw(const TodayChordLauncherCard& card, const Rectangle& frame,
   const double ink = widgetMetrics::diagramInk * layout::diagramScale;
   const double middleX = frame.x + layout::diagramMiddleX;
   const double top = frame.y + (frame.height - ink) / 2;
-  if (const auto diagram = widgetDiagram(card.chord, settings)) {
-    items.push_back(drawDiagramAt(*diagram, middleX, top, layout::diagramScale));
-  } else {
-    items.push_back({drawCentred(stackIcon, {middleX - ink / 2, top, ink, ink}, layout::icon,
-                                 widgetPalette::quietIcon)});
-  }
+  items.push_back(drawPicture(widgetDiagram(card.chord, settings), middleX, top,
+                              layout::diagramScale, layout::icon));
   items.push_back({LinkArea{frame, chordLink(card.chord), chordOfTheDayLabel(card.chord)}});
   return items;
 }
@@ -100,7 +97,7 @@ Scene drawLauncherWidget(const LauncherEntry& entry, const ViewSettings& setting
   append(items,
          draw(WidgetSectionTitle{localized(launcherChordSection), localized("A new one every day")},
               {tall::margin, y}, tall::width));
-  y += widgetMetrics::sectionTitle::height + widgetMetrics::sectionTitle::gapBelow;
+  y += widgetMetrics::sectionTitle::contentsY;
   const Rectangle card{tall::margin, y, tall::width, layout::chordCardHeight};
   append(items, draw(TodayChordLauncherCard{entry.chord, entry.category}, card, settings));
   append(items, drawTools(y + layout::chordCardHeight + layout::sectionGap));

@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "TodayChordExtension/diagram/scene_items.h"
 #include "TodayChordExtension/widgets/widget_chord.h"
 #include "TodayChordExtension/widgets/widget_links.h"
 #include "TodayChordExtension/widgets/widget_metrics.h"
@@ -62,8 +63,7 @@ Scene drawRecentChordsWidget(const RecentChordsEntry& entry, const ViewSettings&
                                         localized("Pick up where you left off")},
                      {tall::margin, tall::margin}, tall::width - layout::searchButton - tall::gap));
   append(items, drawSearchButton());
-  const double top =
-      tall::margin + widgetMetrics::sectionTitle::height + widgetMetrics::sectionTitle::gapBelow;
+  const double top = tall::margin + widgetMetrics::sectionTitle::contentsY;
   const Rectangle grid{tall::margin, top, tall::width, tall::bottom - top};
   const std::size_t count = std::min(entry.chords.size(), RecentChordsEntry::capacity);
   for (std::size_t i = 0; i < count; ++i) {

@@ -38,7 +38,6 @@ inline constexpr double rimWidth = 1;
 inline constexpr double footnote = 13;
 inline constexpr double caption = 12;
 inline constexpr double smallestTextScale = 0.75;  // a longer text is cut instead of set smaller
-inline constexpr double capitalHeight = metrics::capitalHeight;
 
 // What a diagram paints, in its own units: from the marks above the nut to the board's lower edge.
 inline constexpr double diagramTop =
@@ -147,6 +146,7 @@ inline constexpr double subtitleFont = footnote;
 inline constexpr double subtitleBaseline = 37;
 inline constexpr double height = 42;
 inline constexpr double gapBelow = 12;
+inline constexpr double contentsY = height + gapBelow;  // of what the section holds
 }  // namespace sectionTitle
 
 namespace launcher {

@@ -1,7 +1,6 @@
 #include "TodayChordExtension/widgets/widget_parts.h"
 
-#include <iterator>
-
+#include "TodayChordExtension/diagram/diagram_places.h"
 #include "TodayChordExtension/diagram/scene_shapes.h"
 #include "TodayChordExtension/widgets/widget_metrics.h"
 #include "TodayChordExtension/widgets/widget_palette.h"
@@ -28,11 +27,6 @@ SceneItems draw(const WidgetSectionTitle& section, Point origin, double width) {
                          widgetPalette::subtitle, metrics::subtitleBaseline));
   }
   return items;
-}
-
-void append(SceneItems& items, SceneItems more) {
-  items.insert(items.end(), std::make_move_iterator(more.begin()),
-               std::make_move_iterator(more.end()));
 }
 
 PathItem drawField(const Rectangle& frame, double radius, const Paint& paint) {
@@ -66,7 +60,7 @@ SceneItems drawLearnMore(Point corner) {
   const TextStyle style{
       {boldFont, widgetMetrics::caption}, widgetPalette::buttonText, TextAnchor::middle};
   const Point baseline{frame.x + frame.width / 2,
-                       middleBaseline(frame.y, frame.height, style.font.size)};
+                       baselineAround(frame.y + frame.height / 2, style.font.size)};
   return {{drawField(frame, button::height / 2, widgetPalette::button)},
           {fitLine(localized("Learn More"), style, baseline, button::width - button::height / 2)}};
 }

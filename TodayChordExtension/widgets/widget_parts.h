@@ -23,8 +23,6 @@ SceneItems draw(const ExtraLargeWidgetBackground& background);
 /// From `origin`, no wider than `width`.
 SceneItems draw(const WidgetSectionTitle& section, Point origin, double width);
 
-void append(SceneItems& items, SceneItems more);
-
 /// A field with round corners.
 PathItem drawField(const Rectangle& frame, double radius, const Paint& paint);
 

@@ -44,10 +44,6 @@ TextItem fitLine(const std::string& text, const TextStyle& style, Point baseline
           style.color};
 }
 
-double middleBaseline(double y, double height, double fontSize) {
-  return y + (height + widgetMetrics::capitalHeight * fontSize) / 2;
-}
-
 std::string inCapitals(std::string text) {
   constexpr char latin1 = '\xC3';  // begins U+00C0 to U+00FF, the capitals before the small letters
   char before = 0;

@@ -23,9 +23,6 @@ struct TextStyle {
 /// where it is too long, and cut with "…" where that does not help.
 TextItem fitLine(const std::string& text, const TextStyle& style, Point baseline, double width);
 
-/// The baseline at which capitals of a font size stand in the middle of [y, y + height].
-double middleBaseline(double y, double height, double fontSize);
-
 /// "LEARN MORE" for "Learn More", "DÍA" for "día"; letters beyond Latin-1 stay as they are.
 std::string inCapitals(std::string text);
 
