@@ -7,7 +7,6 @@
 #include "TodayChordExtension/diagram/icons.h"
 #include "TodayChordExtension/diagram/scene_items.h"
 #include "TodayChordExtension/diagram/scene_shapes.h"
-#include "TodayChordExtension/widgets/today_chord_bundle.h"
 #include "TodayChordExtension/widgets/widget_links.h"
 #include "TodayChordExtension/widgets/widget_metrics.h"
 #include "TodayChordExtension/widgets/widget_palette.h"
@@ -22,6 +21,7 @@ namespace tall = widgetMetrics::tall;
 
 using tonelake::message;
 
+constexpr const char* titleText = message("Curated Chord Packs");
 constexpr const char* allRowText = message("View All Collections");
 
 // An odd number takes one place more, since its first card takes two.
@@ -112,17 +112,14 @@ SceneItems draw(const CollectionGrid& grid, const Rectangle& frame) {
 Scene drawCollectionsWidget(const CollectionsEntry& entry) {
   const auto size = widgetMetrics::sizeOf(WidgetFamily::extraLargePortrait);
   SceneItems items = draw(ExtraLargeWidgetBackground{});
-  append(items, draw(WidgetSectionTitle{localized("Curated Chord Packs"),
-                                        localized("Yours first, then ours")},
+  append(items, draw(WidgetSectionTitle{localized(titleText), localized("Yours first, then ours")},
                      {tall::margin, tall::margin}, tall::width));
   const double top = tall::margin + widgetMetrics::sectionTitle::contentsY;
   const double bottom = tall::bottom - layout::allRowHeight - tall::gap;
   append(items,
          draw(CollectionGrid{entry.collections}, {tall::margin, top, tall::width, bottom - top}));
   append(items, drawAllRow());
-  return {size.width, size.height,
-          std::string(TodayChordBundle::findWidget(collectionsWidgetKind)->displayName), "",
-          std::move(items)};
+  return {size.width, size.height, localized(titleText), "", std::move(items)};
 }
 
 }  // namespace todaychord

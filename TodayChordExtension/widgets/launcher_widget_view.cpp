@@ -5,7 +5,6 @@
 #include "TodayChordExtension/diagram/scene_items.h"
 #include "TodayChordExtension/widgets/chord_layouts.h"
 #include "TodayChordExtension/widgets/launcher_tools.h"
-#include "TodayChordExtension/widgets/today_chord_bundle.h"
 #include "TodayChordExtension/widgets/widget_chord.h"
 #include "TodayChordExtension/widgets/widget_links.h"
 #include "TodayChordExtension/widgets/widget_metrics.h"
@@ -101,9 +100,9 @@ Scene drawLauncherWidget(const LauncherEntry& entry, const ViewSettings& setting
   const Rectangle card{tall::margin, y, tall::width, layout::chordCardHeight};
   append(items, draw(TodayChordLauncherCard{entry.chord, entry.category}, card, settings));
   append(items, drawTools(y + layout::chordCardHeight + layout::sectionGap));
-  return {size.width, size.height,
-          std::string(TodayChordBundle::findWidget(launcherWidgetKind)->displayName), "",
-          std::move(items)};
+  const std::string title =
+      localized(launcherChordSection) + ", " + localized(launcherToolsSection);
+  return {size.width, size.height, title, "", std::move(items)};
 }
 
 }  // namespace todaychord
