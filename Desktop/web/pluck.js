@@ -4,7 +4,7 @@
 // in the same units, and the colour of a swinging string.
 (() => {
   const still = matchMedia('(prefers-reduced-motion: reduce)');
-  const secondsOfSound = 2.5;  // by then a string swings less than a hundredth of its way
+  const secondsOfSwing = 2.5;  // by then a string swings less than a hundredth of its way
   const swinging = new Map();
 
   // Each line is one cubic curve: M x y C x y x y x y.
@@ -48,7 +48,7 @@
       pluckOfString.start ??= now;
       const {start, side, touch} = pluckOfString;
       const seconds = (now - start) / 1000;
-      if (seconds > secondsOfSound) {
+      if (seconds > secondsOfSwing) {
         swinging.delete(string);
         string.path.setAttribute('d', string.rest);
         string.path.style.stroke = '';

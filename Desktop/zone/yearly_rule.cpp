@@ -23,7 +23,8 @@ bool isLetter(char character) {
   return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
 }
 
-// Reads pieces from the front of a text; every function leaves the text as it is on failure.
+// Reads pieces from the front of a text; every function but time() leaves the text as it is on
+// failure.
 class Scanner {
  public:
   explicit Scanner(std::string_view text) : rest_(text) {}

@@ -2,8 +2,6 @@
 
 namespace todaychord {
 
-// x grows to the right, y downwards.
-
 /// A place: x grows to the right, y downwards.
 struct Point {
   double x = 0;  ///< from the left

@@ -31,11 +31,12 @@ struct CurveTo {
   Point to;        ///< its end
   friend bool operator==(const CurveTo&, const CurveTo&) = default;
 };
+/// A straight line back to the last MoveTo.
 struct ClosePath {
   friend bool operator==(const ClosePath&, const ClosePath&) = default;
 };
 
-/// One step of a pen. ClosePath goes straight back to the last MoveTo.
+/// One step of a pen.
 using PathStep = std::variant<MoveTo, LineTo, CurveTo, ClosePath>;
 /// The steps of a pen, the first of which is a MoveTo.
 using Path = std::vector<PathStep>;

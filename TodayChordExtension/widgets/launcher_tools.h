@@ -20,7 +20,6 @@ struct LauncherTool {
   std::string_view systemImage;  ///< a system icon where there is no image, or ""
 };
 
-// In the order in which they are shown.
 // clang-format off
 /// The tools in the order in which they are shown.
 inline constexpr std::array<LauncherTool, 4> launcherTools{{

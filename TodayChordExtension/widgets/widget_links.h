@@ -25,7 +25,7 @@ TONELAKE_API std::string chordLink(const std::optional<Chord>& chord);
 TONELAKE_API std::string collectionLink(std::string_view title);
 
 /// "zyndle://widget/tuner" for "tuner"; "/" for a name with characters other than the unreserved
-/// ones.
+/// ones. parseWidgetLink reads no place from "", "chord" and "collection".
 TONELAKE_API std::string namedDestination(std::string_view name);
 
 // The destinations without a place in a table of their own.
@@ -49,9 +49,10 @@ struct NamedDestination {
 /// What a link leads to.
 using WidgetLink = std::variant<Chord, CollectionLink, NamedDestination>;
 
-/// What a link leads to, for hosts that open one: the reverse of the builders. Scheme and host may
-/// be in capitals, query items in any order, unknown ones are passed over, and of two with the
-/// same name the first counts. Nothing for any other text. The chord need not be showable.
+/// What a link leads to, for hosts that open one: the reverse of the builders, but for the names
+/// that namedDestination excepts. Scheme and host may be in capitals, query items in any order,
+/// unknown ones are passed over, and of two with the same name the first counts. Nothing for any
+/// other text. The chord need not be showable.
 TONELAKE_API std::optional<WidgetLink> parseWidgetLink(std::string_view link);
 
 }  // namespace todaychord
