@@ -55,6 +55,13 @@ std::optional<std::int64_t> SqliteDatabase::number(const char* sql) {
                                                                              : std::nullopt;
 }
 
+std::optional<std::string> SqliteDatabase::inTransaction(const std::function<bool()>& write) {
+  if (execute("BEGIN IMMEDIATE") && write() && execute("COMMIT")) return std::nullopt;
+  const std::string wrong = problem();
+  execute("ROLLBACK");  // fails harmlessly where no transaction was begun
+  return wrong;
+}
+
 std::string SqliteDatabase::problem() const {
   return sqlite3_errmsg(connection_);
 }

@@ -39,6 +39,12 @@ class SqliteDatabase {
   /// The first column of the first row; nothing on failure or without a row.
   std::optional<std::int64_t> number(const char* sql);
 
+  /// Lets `write` run statements, which tells whether they succeeded, and keeps all they wrote or
+  /// none of it: nothing on success, else what went wrong. It takes the file's lock for writing at
+  /// once: a transaction that began by reading could find itself behind another process's write
+  /// and fail without waiting.
+  std::optional<std::string> inTransaction(const std::function<bool()>& write);
+
   /// What was wrong with the call that failed last, for example "database is locked".
   std::string problem() const;
 

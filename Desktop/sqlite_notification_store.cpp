@@ -13,6 +13,8 @@ using Parameter = SqliteParameter;
 
 constexpr int longestRow = 1 << 20;
 
+// Desktops show no badge: it is kept for whoever reads the table.
+//
 // Other programs' settings are in the file, too: nothing of theirs is touched, and a version of
 // this program that knows no notifications goes on reading it.
 bool makeTables(SqliteDatabase& database) {
@@ -117,15 +119,10 @@ SqliteNotificationStore::SqliteNotificationStore(std::string file,
                      "ON CONFLICT(identifier) DO UPDATE SET sequence = sequence + 1 "
                      "RETURNING sequence") {}
 
-// Takes the file's lock for writing at once, so that a change never finds itself behind another's.
 SqliteNotificationStore::Problem SqliteNotificationStore::inTransaction(
     const std::function<bool()>& write) {
-  if (database_->execute("BEGIN IMMEDIATE") && write() && database_->execute("COMMIT")) {
-    return std::nullopt;
-  }
-  const std::string wrong = file_ + ": " + database_->problem();
-  database_->execute("ROLLBACK");  // fails harmlessly where no transaction was begun
-  return wrong;
+  const auto wrong = database_->inTransaction(write);
+  return wrong ? std::optional(file_ + ": " + *wrong) : std::nullopt;
 }
 
 SqliteNotificationStore::Change SqliteNotificationStore::change(

@@ -12,7 +12,7 @@ namespace {
 
 using Parameter = SqliteParameter;
 
-constexpr int formatNumber = 1;
+constexpr int fileFormat = 1;
 // A row holds the setting, its type and a few bytes of the file's own.
 constexpr int longestRow = static_cast<int>(SqliteSettingsStore::longestSetting) + 1024;
 
@@ -45,7 +45,7 @@ Setting settingIn(const SqliteStatement::Row& row) {
 bool createTable(SqliteDatabase& database) {
   // Readers then never wait for a writer. It is a property of the file, hence set only here.
   if (!database.execute("PRAGMA journal_mode = WAL")) return false;
-  static_assert(formatNumber == 1, "the text below and this number belong together");
+  static_assert(fileFormat == 1, "the text below and this number belong together");
   return database.execute(
       "BEGIN IMMEDIATE;"
       "CREATE TABLE IF NOT EXISTS settings("
@@ -63,12 +63,12 @@ std::optional<std::string> prepareFile(SqliteDatabase& database) {
   const auto tables = database.number("SELECT count(*) FROM sqlite_schema");
   const auto format = tables ? database.number("PRAGMA user_version") : std::nullopt;
   if (!format) return database.problem();
-  if (*format > formatNumber) {
+  if (*format > fileFormat) {
     return translated(
         "written by a newer version of this program (format {0}, this version knows {1})", *format,
-        formatNumber);
+        fileFormat);
   }
-  if (*format == formatNumber) return std::nullopt;
+  if (*format == fileFormat) return std::nullopt;
   if (*format < 0 || *tables > 0) return translated("a database, but not one of settings");
   return createTable(database) ? std::nullopt : std::optional(database.problem());
 }
@@ -111,9 +111,7 @@ SqliteSettingsStore::SqliteSettingsStore(std::string file, std::unique_ptr<Sqlit
       upsert_(*database_,
               "INSERT INTO settings(key, type, value) VALUES(?1, ?2, ?3) "
               "ON CONFLICT(key) DO UPDATE SET type = excluded.type, value = excluded.value"),
-      delete_(*database_, "DELETE FROM settings WHERE key = ?1"),
-      begin_(*database_, "BEGIN IMMEDIATE"),
-      commit_(*database_, "COMMIT") {}
+      delete_(*database_, "DELETE FROM settings WHERE key = ?1") {}
 
 std::string SqliteSettingsStore::problem() const {
   return file_ + ": " + database_->problem();
@@ -123,14 +121,10 @@ void SqliteSettingsStore::report(const std::optional<std::string>& problem) cons
   if (problem) std::call_once(reported_, [&] { diagnostics_->write(*problem); });
 }
 
-// Takes the file's lock for writing at once: a transaction that began by reading could find itself
-// behind another process's write and fail without waiting.
 std::optional<std::string> SqliteSettingsStore::inTransaction(const std::function<bool()>& write) {
   const std::lock_guard lock(mutex_);
-  if (begin_.run() && write() && commit_.run()) return std::nullopt;
-  const std::string wrong = problem();
-  database_->execute("ROLLBACK");  // fails harmlessly where no transaction was begun
-  return wrong;
+  const auto wrong = database_->inTransaction(write);
+  return wrong ? std::optional(file_ + ": " + *wrong) : std::nullopt;
 }
 
 std::optional<std::string> SqliteSettingsStore::lengthProblem(std::string_view key,

@@ -82,7 +82,7 @@ class SqliteSettingsStore final : public tonelake::SettingsStore {
   SqliteSettingsStore(std::string file, std::unique_ptr<SqliteDatabase> database,
                       std::shared_ptr<tonelake::Diagnostics> diagnostics);
 
-  // `write` runs statements and tells whether they succeeded.
+  // As in SqliteDatabase, for one thread at a time.
   std::optional<std::string> inTransaction(const std::function<bool()>& write);
   std::optional<std::string> store(std::string_view key, SettingType type,
                                    const SqliteParameter& value);
@@ -103,8 +103,6 @@ class SqliteSettingsStore final : public tonelake::SettingsStore {
   mutable SqliteStatement selectAll_;
   SqliteStatement upsert_;
   SqliteStatement delete_;
-  SqliteStatement begin_;
-  SqliteStatement commit_;
 };
 
 }  // namespace desktop
