@@ -5,30 +5,24 @@
 
 #include "Desktop/cairo_paths.h"
 #include "Desktop/number_text.h"
+#include "TodayChordExtension/widgets/percent_encoding.h"
 
 namespace desktop {
 namespace {
 
 bool isPlain(char character) {
-  constexpr std::string_view plainSigns = "-._~:/?#[]@!$&*+,;=%";
-  return (character >= '0' && character <= '9') || (character >= 'A' && character <= 'Z') ||
-         (character >= 'a' && character <= 'z') ||
-         plainSigns.find(character) != std::string_view::npos;
+  constexpr std::string_view signsOfAddresses = ":/?#[]@!$&*+,;=%";
+  return todaychord::isUnreserved(character) ||
+         signsOfAddresses.find(character) != std::string_view::npos;
 }
 
 // Addresses are ASCII already. What else comes from outside must not end the quotes or brackets
 // that Cairo and PDF put around an address: "a b(c)'" becomes "a%20b%28c%29%27".
 std::string encodeAddress(std::string_view address) {
-  constexpr std::string_view digits = "0123456789ABCDEF";
   std::string encoded;
-  for (const char character : address) {
-    if (isPlain(character)) {
-      encoded += character;
-      continue;
-    }
-    const auto byte = static_cast<unsigned char>(character);
-    (encoded += '%') += digits[byte >> 4U];
-    encoded += digits[byte & 0xFU];
+  for (const char& character : address) {
+    const std::string_view each(&character, 1);
+    encoded += isPlain(character) ? std::string(each) : todaychord::percentEncode(each);
   }
   return encoded;
 }

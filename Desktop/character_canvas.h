@@ -15,7 +15,6 @@ class CharacterCanvas {
   CharacterCanvas(int width, int height);
 
   int width() const { return width_; }
-  int height() const { return height_; }
 
   /// Draws one line of UTF-8 from a column on; what lies outside the canvas is dropped. Characters
   /// take one column each; control characters and broken bytes become "?".

@@ -3,14 +3,16 @@
 #include <algorithm>
 #include <iterator>
 
+#include "TodayChordExtension/diagram/font.h"
+
 namespace desktop {
 namespace {
 
 // clang-format off
 constexpr Typeface typefaces[] = {
-    // name                   file                          web families                                 weight
-    {"Space Grotesk Medium",  "SpaceGrotesk-Medium.ttf",   "'Space Grotesk', 'Noto Music', sans-serif", 500},
-    {"SpaceGrotesk-SemiBold", "SpaceGrotesk-SemiBold.ttf", "'Space Grotesk', 'Noto Music', sans-serif", 600},
+    // name                    file                          web families                                 weight
+    {todaychord::regularFont,  "SpaceGrotesk-Medium.ttf",   "'Space Grotesk', 'Noto Music', sans-serif", 500},
+    {todaychord::boldFont,     "SpaceGrotesk-SemiBold.ttf", "'Space Grotesk', 'Noto Music', sans-serif", 600},
 };
 
 constexpr MusicSign musicSigns[] = {
