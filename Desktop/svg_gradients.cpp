@@ -4,8 +4,7 @@
 #include <utility>
 #include <variant>
 
-#include "Desktop/number_text.h"
-#include "Desktop/svg_text.h"
+#include "Desktop/svg_attributes.h"
 
 namespace desktop {
 namespace {
@@ -24,18 +23,6 @@ void writeStops(const todaychord::Gradient& stops, pugi::xml_node parent) {
 }
 
 }  // namespace
-
-void setAttribute(pugi::xml_node node, const char* name, const std::string& value) {
-  node.append_attribute(name).set_value(cleanForXml(value).c_str());
-}
-
-void setAttribute(pugi::xml_node node, const char* name, double value) {
-  node.append_attribute(name).set_value(formatNumber(value).c_str());
-}
-
-void setOpacity(pugi::xml_node node, const char* name, double opacity) {
-  if (opacity != 1) setAttribute(node, name, opacity);
-}
 
 SvgGradients::SvgGradients(pugi::xml_node definitions, std::string idPrefix)
     : definitions_(definitions), idPrefix_(std::move(idPrefix)) {}

@@ -9,6 +9,7 @@
 
 #include "Desktop/number_text.h"
 #include "Desktop/pluck_script.h"
+#include "Desktop/svg_attributes.h"
 #include "Desktop/svg_gradients.h"
 #include "Desktop/svg_text.h"
 #include "Desktop/typefaces.h"
