@@ -35,6 +35,12 @@ std::string escapeMarkup(const std::string& text) {
   return tonelake::replaceAll(escaped, ">", "&gt;");
 }
 
+// By the names that themes of sounds share. The service has none for its usual sound, which is that
+// of a message.
+std::string soundNamed(const std::string& sound) {
+  return sound == "default" ? "message-new-instant" : sound;
+}
+
 // On a thread of its own, since a bus that is there but does not answer would hold the caller up
 // for a minute and a half. The thread outlives a call that gave up, and needs nothing of it.
 Connection connect() {
@@ -109,7 +115,7 @@ void DbusNotificationPoster::Session::post(const StoredNotification& notificatio
   if (isClickable) actions = {defaultAction, translated("Show chord")};
   Hints hints;
   if (serverCan("sound")) {
-    hints["sound-name"] = sdbus::Variant(std::string("message-new-instant"));
+    hints["sound-name"] = sdbus::Variant(soundNamed(notification.request.sound));
   }
   std::uint32_t id = 0;
   proxy_->callMethod("Notify")
