@@ -10,8 +10,8 @@ struct WidthClass {
   std::string_view characters;
 };
 
-// Measured in Space Grotesk Medium and SemiBold, the music signs in Noto Music and DejaVu Sans,
-// each rounded up.
+// Measured in Space Grotesk Medium and SemiBold, the music signs and U+FFFD in Noto Music and
+// DejaVu Sans, each rounded up.
 // clang-format off
 constexpr WidthClass widthClasses[] = {
     {0.30, "|Iilj',!.:;`·’‘ "},
@@ -21,6 +21,7 @@ constexpr WidthClass widthClasses[] = {
     {0.68, "–“”♭𝄫"},  // flats are set larger
     {0.90, "wmMW%ÆæŴŵ©«»¼½¾ďĲ—…"},
     {1.03, "@œŒ"},
+    {1.12, "�"},  // what stands in for characters that cannot be shown
     {1.28, "№ǄǅǆǇǊ"},
 };
 // clang-format on
@@ -29,6 +30,7 @@ constexpr double eastAsianWidth = 1.05;
 constexpr double foreignWidth = 1.25;  // other scripts: Ж in the usual fonts
 
 double characterWidth(std::string_view character) {
+  if (!tonelake::isPrintable(character)) character = tonelake::replacementCharacter;
   for (const WidthClass& widthClass : widthClasses) {
     if (widthClass.characters.find(character) != std::string_view::npos) return widthClass.width;
   }

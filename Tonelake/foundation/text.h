@@ -37,7 +37,7 @@ inline constexpr std::string_view replacementCharacter = "\uFFFD";
 
 /// Whether one of those pieces may stand in a line of text: a well-formed character that is no
 /// control (U+0000 to U+001F and U+007F to U+009F).
-bool isPrintable(std::string_view character) noexcept;
+TONELAKE_API bool isPrintable(std::string_view character) noexcept;
 
 /// As much of the front of `text` as `size` bytes hold without cutting a character.
 std::string_view frontOf(std::string_view text, std::size_t size) noexcept;

@@ -55,7 +55,9 @@ TEST(GlyphLayout, IsNeverWiderThanScenesReckon) {
     for (char first = ' '; first <= '~'; ++first) {
       for (char second = ' '; second <= '~'; ++second) expectRoom({first, second}, font);
     }
-    for (const char* text : {"♭", "♮", "♯", "𝄪", "𝄫"}) expectRoom(text, font);
+    for (const char* text : {"♭", "♮", "♯", "𝄪", "𝄫", "\x80", "\x01", "\x7F", "\u0085"}) {
+      expectRoom(text, font);
+    }
   }
 }
 
