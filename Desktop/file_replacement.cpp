@@ -4,14 +4,11 @@
 #include <cstdio>
 #include <filesystem>
 #include <random>
-#include <system_error>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include "Desktop/files.h"
-#include "Desktop/translation.h"
 
 namespace desktop {
 namespace {
@@ -40,16 +37,6 @@ int replaceFile(const std::string& path, std::string_view contents) {
   if (error == 0 && std::rename(draft.c_str(), path.c_str()) != 0) error = errno;
   if (error != 0) std::remove(draft.c_str());
   return error;
-}
-
-std::optional<std::string> makeFolder(const std::string& folder) {
-  std::error_code error;
-  std::filesystem::create_directories(folder, error);
-  if (!error && !std::filesystem::is_directory(folder, error) && !error) {
-    error = std::make_error_code(std::errc::not_a_directory);
-  }
-  if (!error) return std::nullopt;
-  return translated("cannot make the folder {0}: {1}", '"' + folder + '"', error.message());
 }
 
 }  // namespace desktop

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -10,8 +9,5 @@ namespace desktop {
 /// old file or the whole new one, and when it goes wrong the old one stays. The new one has the old
 /// one's mode. Returns the system's answer: 0 or an error number.
 int replaceFile(const std::string& path, std::string_view contents);
-
-/// Makes `folder` and those above it that are missing. Returns what went wrong, in one line.
-std::optional<std::string> makeFolder(const std::string& folder);
 
 }  // namespace desktop

@@ -1,10 +1,13 @@
 #include "Desktop/files.h"
 
 #include <cerrno>
+#include <system_error>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include "Desktop/translation.h"
 
 namespace desktop {
 namespace {
@@ -22,7 +25,25 @@ struct OpenFile {
   int descriptor;
 };
 
+// 0 or an error number.
+int makeFolders(const std::string& folder, mode_t mode) {
+  for (std::size_t end = 0; end != std::string::npos;) {
+    end = folder.find('/', end + 1);
+    if (::mkdir(folder.substr(0, end).c_str(), mode) != 0 && errno != EEXIST) return errno;
+  }
+  struct stat status {};
+  if (::stat(folder.c_str(), &status) != 0) return errno;
+  return S_ISDIR(status.st_mode) ? 0 : ENOTDIR;
+}
+
 }  // namespace
+
+std::optional<std::string> makeFolder(const std::string& folder, mode_t mode) {
+  const int error = makeFolders(folder, mode);
+  if (error == 0) return std::nullopt;
+  return translated("cannot make the folder {0}: {1}", '"' + folder + '"',
+                    std::generic_category().message(error));
+}
 
 std::optional<std::string> readFile(const std::string& path, std::size_t limit) {
   const OpenFile file(path);

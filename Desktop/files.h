@@ -5,10 +5,16 @@
 #include <string>
 #include <string_view>
 
+#include <sys/types.h>
+
 namespace desktop {
 
 /// The whole file at `path`; nothing when it cannot be read or holds more than `limit` bytes.
 std::optional<std::string> readFile(const std::string& path, std::size_t limit);
+
+/// Makes `folder` and those above it that are missing, with what the user's mask leaves of `mode`.
+/// Returns what went wrong, in one line.
+std::optional<std::string> makeFolder(const std::string& folder, mode_t mode = 0777);
 
 /// A descriptor of the file at `path`, which is made where there is none, with the mode that the
 /// user's mask leaves; negative when that fails, see errno. `flags` say what happens to a file that

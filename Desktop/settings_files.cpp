@@ -1,12 +1,10 @@
 #include "Desktop/settings_files.h"
 
-#include <cerrno>
-#include <system_error>
+#include <filesystem>
 #include <utility>
 
-#include <sys/stat.h>
-
 #include "Desktop/environment.h"
+#include "Desktop/files.h"
 #include "Desktop/lazy_settings_store.h"
 #include "Desktop/translation.h"
 #include "Desktop/write_behind_store.h"
@@ -16,17 +14,6 @@ namespace {
 
 bool isAbsolute(const std::optional<std::string>& path) {
   return path && path->starts_with('/');
-}
-
-// Makes every folder on the way to `file` that is missing; false when one cannot be made. What
-// stands in the way without being a folder is left for the opening to complain about.
-bool makeFoldersFor(const std::string& file) {
-  constexpr mode_t onlyThisUser = 0700;
-  for (std::size_t end = file.find('/', 1); end != std::string::npos;
-       end = file.find('/', end + 1)) {
-    if (::mkdir(file.substr(0, end).c_str(), onlyThisUser) != 0 && errno != EEXIST) return false;
-  }
-  return true;
 }
 
 }  // namespace
@@ -51,9 +38,9 @@ SqliteSettingsStore::Opening openSettingsFile(const std::string& file,
     return {nullptr,
             translated("{}: neither XDG_DATA_HOME nor HOME says which folder it belongs to", file)};
   }
-  if (!makeFoldersFor(file)) {
-    return {nullptr, translated("{0}: cannot make its folder: {1}", file,
-                                std::generic_category().message(errno))};
+  constexpr mode_t onlyThisUser = 0700;
+  if (const auto problem = makeFolder(std::filesystem::path(file).parent_path(), onlyThisUser)) {
+    return {nullptr, file + ": " + *problem};
   }
   return SqliteSettingsStore::open(file, std::move(diagnostics));
 }

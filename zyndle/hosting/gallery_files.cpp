@@ -1,7 +1,7 @@
 #include "zyndle/hosting/gallery_files.h"
 
 #include "Desktop/embedded_fonts.h"
-#include "Desktop/file_replacement.h"
+#include "Desktop/files.h"
 #include "Desktop/svg_renderer.h"
 #include "zyndle/command_error.h"
 #include "zyndle/hosting/embedded_web.h"
