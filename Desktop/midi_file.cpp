@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include <smf.h>
@@ -27,7 +28,8 @@ using tonelake::WholeNumber;
 using SmfPointer = CPointer<smf_t, smf_delete>;
 
 constexpr int bassChannel = 6;
-constexpr WholeNumber drumLength = 60;
+// A demisemiquaver: drums die away by themselves, however short their key is held.
+constexpr WholeNumber drumLength = tonelake::ticksPerCrotchet / 8;
 constexpr std::size_t largestFile = std::size_t{1} << 30U;
 
 // First bytes of MIDI messages; the low half of the first three is the channel.
@@ -130,7 +132,9 @@ void addPart(smf_t* file, const std::string& name, const Sound& sound, std::vect
 std::string contentsOf(smf_t* file) {
   const MemoryFile memory("zyndle.mid");
   if (!memory.isOpen() || smf_save(file, memory.path().c_str()) != 0) failToWrite();
-  return readFile(memory.path(), largestFile).value_or("");
+  auto contents = readFile(memory.path(), largestFile);
+  if (!contents) failToWrite();
+  return std::move(*contents);
 }
 
 }  // namespace
