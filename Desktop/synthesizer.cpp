@@ -6,16 +6,16 @@
 #include <cstdint>
 #include <cstring>
 #include <filesystem>
+#include <system_error>
+#include <utility>
 #include <vector>
 
-#include <fcntl.h>
-#include <spawn.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "Desktop/environment.h"
 #include "Desktop/files.h"
 #include "Desktop/memory_file.h"
+#include "Desktop/program_start.h"
 #include "Desktop/translation.h"
 #include "Tonelake/foundation/text.h"
 
@@ -38,7 +38,8 @@ constexpr const char* gain = "0.6";
 
 // 16 bits, 44100 times a second, left and right.
 constexpr std::size_t bytesPerSecond = 44100 * 2 * 2;
-constexpr std::size_t largestWav = std::size_t{1} << 31U;  // more than three hours
+constexpr const char* nameOfWav = "zyndle.wav";
+constexpr std::size_t largestWav = std::size_t{1} << 31U;  // 2 GiB: more than three hours
 
 // Places in a WAV file.
 constexpr std::size_t placeOfRiffLength = 4;
@@ -46,7 +47,8 @@ constexpr std::size_t placeOfDataLength = 40;
 constexpr std::size_t placeOfSamples = 44;
 
 bool isReadable(const std::string& path) {
-  return std::filesystem::is_regular_file(path) && ::access(path.c_str(), R_OK) == 0;
+  std::error_code error;  // of a folder that may not be read, for one
+  return std::filesystem::is_regular_file(path, error) && ::access(path.c_str(), R_OK) == 0;
 }
 
 std::string findSoundfont() {
@@ -76,28 +78,15 @@ std::string run(const Synthesizer& synthesizer, std::vector<std::string> argumen
   arguments.insert(arguments.begin(), synthesizer.program);
   arguments.push_back(synthesizer.soundfont);
   arguments.push_back(song.path());
-  std::vector<char*> list;
-  list.reserve(arguments.size() + 1);
-  for (std::string& argument : arguments) list.push_back(argument.data());
-  list.push_back(nullptr);
-
-  posix_spawn_file_actions_t actions;
-  posix_spawn_file_actions_init(&actions);
-  posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-  posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, log.path().c_str(), O_WRONLY, 0);
-  posix_spawn_file_actions_adddup2(&actions, STDOUT_FILENO, STDERR_FILENO);
-  pid_t child = 0;
-  const int error = ::posix_spawn(&child, list.front(), &actions, nullptr, list.data(), environ);
-  posix_spawn_file_actions_destroy(&actions);
-  if (error != 0) {
-    return translated("{0} cannot be started: {1}", synthesizer.program, std::strerror(error));
+  const auto program = startProgram(arguments, log.path());
+  if (!program) {
+    return translated("{0} cannot be started: {1}", synthesizer.program, std::strerror(errno));
   }
-  int status = 0;
-  while (::waitpid(child, &status, 0) < 0 && errno == EINTR) continue;
+  const bool hasEndedWell = endsWell(*program);
   const std::string said = readFile(log.path(), SIZE_MAX).value_or("");
   // It may end well after it has failed to open the loudspeakers or the soundfont.
   const bool hasFailed = said.find("error:") != std::string::npos;
-  if (WIFEXITED(status) && WEXITSTATUS(status) == 0 && !hasFailed) return "";
+  if (hasEndedWell && !hasFailed) return "";
   return translated("{0} failed: {1}", synthesizer.program, lastLine(said));
 }
 
@@ -152,14 +141,16 @@ std::string playMidi(const Synthesizer& synthesizer, const std::string& midi) {
 
 std::string renderMidi(const Synthesizer& synthesizer, const std::string& midi, int seconds,
                        std::string& wav) {
-  const MemoryFile sound("zyndle.wav");
+  const MemoryFile sound(nameOfWav);
   if (!sound.isOpen()) return translated(noMemory);
   std::string problem = run(
       synthesizer,
       {"-n", "-i", "-q", "-g", gain, "-r", "44100", "-T", "wav", "-O", "s16", "-F", sound.path()},
       midi);
   if (!problem.empty()) return problem;
-  wav = readFile(sound.path(), largestWav).value_or("");
+  auto file = readFile(sound.path(), largestWav);
+  if (!file) return translated("cannot read {0}, or it is larger than {1}", nameOfWav, "2 GiB");
+  wav = std::move(*file);
   if (wav.size() <= placeOfSamples) return translated("{} made no sound", synthesizer.program);
   cutWav(wav, static_cast<std::size_t>(seconds));
   return "";

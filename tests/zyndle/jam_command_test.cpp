@@ -1,5 +1,7 @@
 // Runs `zyndle jam` and `zyndle patterns` as a user would.
 
+#include <filesystem>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -90,6 +92,25 @@ TEST_F(JamCommand, DrawsPatternsAndReadsThemBack) {
                                                    "Rolling Six", R"(転がる\u001b[2J)");
   EXPECT_THAT(run({"patterns", "--library", folder_.write("unclean.json", unclean)}).output,
               HasSubstr("  転がる\uFFFD[2J                3/4, 1 bar\n"));
+}
+
+TEST_F(JamCommand, TellsHowTheSynthesizerFailed) {
+  const std::string soundfont = folder_.write("some.sf2", "");
+  const std::pair<std::string, const char*> rows[] = {
+      {"exit 0", "fluidsynth made no sound"},
+      {"echo one; echo two; exit 3", "fluidsynth failed: two"},
+      {"echo error: no loudspeakers", "fluidsynth failed: error: no loudspeakers"},
+      // Unlike zyndle, what it starts may be ended by a reader that goes away.
+      {"echo gone; kill -PIPE $$", "fluidsynth failed: gone"},
+  };
+  for (const auto& [script, problem] : rows) {
+    std::filesystem::permissions(folder_.write("fluidsynth", "#!/bin/sh\n" + script),
+                                 std::filesystem::perms::owner_all);
+    const auto result = run({"jam", "C", "-o", folder_.path("x.wav"), "--soundfont", soundfont},
+                            "UTC", "", {"PATH=" + folder_.path()});
+    EXPECT_EQ(result.status, 1) << script;
+    EXPECT_THAT(result.errors, HasSubstr(problem));
+  }
 }
 
 TEST_F(JamCommand, RefusesInOneLine) {
