@@ -15,12 +15,14 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 target_compile_options(zyndle_compile_options INTERFACE -fno-semantic-interposition)
 target_include_directories(zyndle_compile_options INTERFACE ${PROJECT_SOURCE_DIR})
 
-# Where little is computed the sanitizers' code is not optimised, which halves their build: the
-# command and the tests add these options.
-set(ZYNDLE_SANITIZE_QUICKLY "")
+# Where little is computed the code that is only tested is not optimised, since its build takes
+# longer than its runs: the command and the tests add these options.
+set(ZYNDLE_COMPILE_QUICKLY "")
+if(CMAKE_BUILD_TYPE STREQUAL "Debug")
+  set(ZYNDLE_COMPILE_QUICKLY -O0)
+endif()
 
 if(ZYNDLE_SANITIZE)
-  set(ZYNDLE_SANITIZE_QUICKLY -O0)
   target_compile_options(zyndle_compile_options INTERFACE
     -fsanitize=${ZYNDLE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   # GCC sees variables it believes unset in the code that the sanitizers add. The presets without

@@ -18,6 +18,7 @@
 #include "zyndle/chord_name.h"
 #include "zyndle/chord_sheet.h"
 #include "zyndle/chord_words.h"
+#include "zyndle/command_options.h"
 #include "zyndle/drawing.h"
 #include "zyndle/host.h"
 #include "zyndle/instrument_options.h"
@@ -178,12 +179,9 @@ void addChordCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<ChordOptions>();
   CLI::App& command = *app.add_subcommand("chord", translated(description));
   command.footer(translated(introduction) + instrumentHelp() + translated(examples));
-  command.add_option("NAME", options->name, translated("The chord's name, in one word or several"))
-      ->required()
-      ->type_name("");
+  addArgument(command, "NAME", options->name, message("The chord's name, in one word or several"));
   addInstrumentOptions(command, options->instrument);
-  command.add_option("--limit", options->limit, translated("Shapes to show, at most (4)"))
-      ->type_name("N");
+  addOption(command, "--limit", options->limit, message("Shapes to show, at most (4)"), "N");
   addOutputOptions(command, options->output);
   command.callback([options, &action] { action = [options] { showChord(*options); }; });
 }

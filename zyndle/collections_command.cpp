@@ -12,6 +12,7 @@
 #include "Tonelake/foundation/uuid.h"
 #include "zyndle/chord_name.h"
 #include "zyndle/command_error.h"
+#include "zyndle/command_options.h"
 #include "zyndle/host.h"
 #include "zyndle/output.h"
 #include "zyndle/shared_list.h"
@@ -89,12 +90,8 @@ void addCollectionsCommand(CLI::App& app, Action& action) {
 
   CLI::App& add = *command.add_subcommand("add", translated("Add a collection at the end"));
   const auto options = std::make_shared<CollectionOptions>();
-  add.add_option("TITLE", options->title, translated("What the collection is called"))
-      ->required()
-      ->type_name("");
-  add.add_option("CHORD", options->chords, translated("The names of its chords, each one argument"))
-      ->required()
-      ->type_name("");
+  addArgument(add, "TITLE", options->title, message("What the collection is called"));
+  addArgument(add, "CHORD", options->chords, message("The names of its chords, each one argument"));
   add.callback([options, &action] { action = [options] { addCollection(*options); }; });
 
   CLI::App& list =

@@ -7,6 +7,7 @@
 #include <CLI/CLI.hpp>
 
 #include "zyndle/chord_row.h"
+#include "zyndle/command_options.h"
 #include "zyndle/connected_shapes.h"
 #include "zyndle/drawing.h"
 #include "zyndle/host.h"
@@ -66,10 +67,8 @@ void addConnectCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<ConnectOptions>();
   CLI::App& command = *app.add_subcommand("connect", translated(description));
   command.footer(translated(introduction) + instrumentHelp() + translated(examples));
-  command
-      .add_option("CHORDS", options->names, translated("The names of the chords, in their order"))
-      ->required()
-      ->type_name("");
+  addArgument(command, "CHORDS", options->names,
+              message("The names of the chords, in their order"));
   addInstrumentOptions(command, options->instrument);
   addTextOptions(command, options->output);
   command.callback([options, &action] { action = [options] { showConnected(*options); }; });

@@ -14,6 +14,7 @@
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/theory/spelling_tables.h"
 #include "zyndle/command_error.h"
+#include "zyndle/command_options.h"
 #include "zyndle/drawing.h"
 #include "zyndle/found_chords.h"
 #include "zyndle/fret_list.h"
@@ -200,13 +201,12 @@ void addFindCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<FindOptions>();
   CLI::App& command = *app.add_subcommand("find", translated(description));
   command.footer(translated(introduction) + instrumentHelp() + translated(examples));
-  command.add_option("NOTES", options->notes, translated("The names of the notes, the bass first"))
-      ->type_name("");
-  command.add_option("--frets", options->frets, translated("A shape in place of notes"))
-      ->type_name("FRETS");
+  addArgument(command, "NOTES", options->notes, message("The names of the notes, the bass first"))
+      .required(false);
+  addOption(command, "--frets", options->frets, message("A shape in place of notes"), "FRETS");
   addInstrumentOptions(command, options->instrument);
-  command.add_option("--limit", options->limit, translated("Nearest chords to show, at most (8)"))
-      ->type_name("N");
+  addOption(command, "--limit", options->limit, message("Nearest chords to show, at most (8)"),
+            "N");
   addFormatOptions(command, options->output);
   command.callback([options, &action] { action = [options] { showFound(*options); }; });
 }

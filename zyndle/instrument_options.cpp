@@ -1,13 +1,12 @@
 #include "zyndle/instrument_options.h"
 
-#include <CLI/CLI.hpp>
-
 #include "Tonelake/fingering/voicing.h"
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/theory/note.h"
 #include "Tonelake/theory/spelling_tables.h"
 #include "Tonelake/theory/tuning_parsing.h"
 #include "zyndle/command_error.h"
+#include "zyndle/command_options.h"
 #include "zyndle/number_option.h"
 #include "zyndle/text_layout.h"
 #include "zyndle/translation.h"
@@ -38,12 +37,9 @@ std::string instrumentHelp() {
 }
 
 void addInstrumentOptions(CLI::App& command, InstrumentOptions& options) {
-  command
-      .add_option("--tuning", options.tuning,
-                  translated("The open strings, lowest first, or a tuning's name"))
-      ->type_name("TUNING");
-  command.add_option("--capo", options.capo, translated("The capo's fret, 0 to 12 (0)"))
-      ->type_name("N");
+  addOption(command, "--tuning", options.tuning,
+            message("The open strings, lowest first, or a tuning's name"), "TUNING");
+  addOption(command, "--capo", options.capo, message("The capo's fret, 0 to 12 (0)"), "N");
 }
 
 Instrument readInstrument(const InstrumentOptions& options) {

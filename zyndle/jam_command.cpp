@@ -15,12 +15,12 @@
 #include "Tonelake/chords/chord_naming.h"
 #include "Tonelake/foundation/text.h"
 #include "zyndle/command_error.h"
+#include "zyndle/command_options.h"
 #include "zyndle/connected_shapes.h"
 #include "zyndle/host.h"
 #include "zyndle/key_chords.h"
 #include "zyndle/number_option.h"
 #include "zyndle/output.h"
-#include "zyndle/output_options.h"
 #include "zyndle/pattern_names.h"
 #include "zyndle/text_layout.h"
 #include "zyndle/translation.h"
@@ -233,25 +233,22 @@ void addJamCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<JamOptions>();
   CLI::App& command = *app.add_subcommand("jam", translated(description));
   command.footer(translated(introduction) + translated(examples));
-  command
-      .add_option("CHORDS", options->chords,
-                  translated("Names of chords or Roman numerals, a bar each"))
-      ->required()
-      ->type_name("");
-  const auto addText = [&command](const char* name, auto& text, const char* meaning,
-                                  const char* kind) {
-    command.add_option(name, text, translated(meaning))->type_name(kind);
-  };
-  addText("--key", options->key, message("The key (C, or A minor)"), "KEY");
-  addText("--style", options->style, message("A way to pick or strum (Campfire Strum)"), "NAME");
-  addText("--bass", options->bass, message("A bass line, or none"), "NAME");
-  addText("--drums", options->drums, message("A groove, or none"), "NAME");
-  addText("--complexity", options->complexity, message("How busy bass and drums may be (1)"), "N");
-  addText("--tempo", options->tempo, message("Crotchets a minute (92)"), "N");
-  addText("--bars", options->bars, message("The length (8, or one for each chord)"), "N");
-  addText("--library", options->library, message("Read patterns from a JSON file"), "FILE");
-  addText("-o,--output", options->file, message("Write a .mid or a .wav file"), "FILE");
-  addText("--soundfont", options->soundfont, message("The sounds to play with"), "FILE");
+  addArgument(command, "CHORDS", options->chords,
+              message("Names of chords or Roman numerals, a bar each"));
+  addOption(command, "--key", options->key, message("The key (C, or A minor)"), "KEY");
+  addOption(command, "--style", options->style, message("A way to pick or strum (Campfire Strum)"),
+            "NAME");
+  addOption(command, "--bass", options->bass, message("A bass line, or none"), "NAME");
+  addOption(command, "--drums", options->drums, message("A groove, or none"), "NAME");
+  addOption(command, "--complexity", options->complexity,
+            message("How busy bass and drums may be (1)"), "N");
+  addOption(command, "--tempo", options->tempo, message("Crotchets a minute (92)"), "N");
+  addOption(command, "--bars", options->bars, message("The length (8, or one for each chord)"),
+            "N");
+  addOption(command, "--library", options->library, message("Read patterns from a JSON file"),
+            "FILE");
+  addOption(command, "-o,--output", options->file, message("Write a .mid or a .wav file"), "FILE");
+  addOption(command, "--soundfont", options->soundfont, message("The sounds to play with"), "FILE");
   addFlag(command, "--no-guitar", options->noGuitar, message("Leave the guitar to you"));
   addFlag(command, "--play", options->play, message("Play it aloud"));
   addFlag(command, "--ascii", options->ascii, message("Write ASCII characters only"));

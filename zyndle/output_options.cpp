@@ -1,17 +1,12 @@
 #include "zyndle/output_options.h"
 
-#include <CLI/CLI.hpp>
-
 #include "Desktop/ascii_text.h"
 #include "zyndle/command_error.h"
+#include "zyndle/command_options.h"
 #include "zyndle/output.h"
 #include "zyndle/translation.h"
 
 namespace zyndle {
-
-void addFlag(CLI::App& command, const char* name, bool& flag, const char* meaning) {
-  command.add_flag(name, flag, translated(meaning))->disable_flag_override();
-}
 
 void addFormatOptions(CLI::App& command, OutputOptions& options) {
   addFlag(command, "--ascii", options.ascii, message("Write and draw with ASCII characters only"));
@@ -27,10 +22,8 @@ void addTextOptions(CLI::App& command, OutputOptions& options) {
 
 void addOutputOptions(CLI::App& command, OutputOptions& options) {
   addTextOptions(command, options);
-  command
-      .add_option("--svg", options.svgFile,
-                  translated("Draw the first shape too; - for standard output"))
-      ->type_name("FILE");
+  addOption(command, "--svg", options.svgFile,
+            message("Draw the first shape too; - for standard output"), "FILE");
 }
 
 void checkOutputOptions(const OutputOptions& options) {

@@ -22,11 +22,7 @@ struct OutputOptions {
   bool isForPrograms() const { return json || svgFile == "-"; }
 };
 
-// What is given by reference has to live as long as the subcommand.
-
-/// Adds an option that is given or not, and takes no value. `meaning` is in English, marked as a
-/// message.
-void addFlag(CLI::App& command, const char* name, bool& flag, const char* meaning);
+// `options` has to live as long as the subcommand.
 
 /// Adds --ascii and --json to a subcommand.
 void addFormatOptions(CLI::App& command, OutputOptions& options);

@@ -18,6 +18,7 @@
 #include "Tonelake/foundation/json.h"
 #include "Tonelake/foundation/text.h"
 #include "zyndle/command_error.h"
+#include "zyndle/command_options.h"
 #include "zyndle/drawing.h"
 #include "zyndle/host.h"
 #include "zyndle/output.h"
@@ -133,9 +134,7 @@ void addPacksCommands(CLI::App& app, Action& action) {
   const auto options = std::make_shared<PackOptions>();
   CLI::App& pack = *app.add_subcommand("pack", translated(description));
   pack.footer(translated(examples));
-  pack.add_option("NAME", options->name, translated("The name of a pack, as zyndle packs has it"))
-      ->required()
-      ->type_name("");
+  addArgument(pack, "NAME", options->name, message("The name of a pack, as zyndle packs has it"));
   addTextOptions(pack, options->output);
   pack.callback([options, &action] { action = [options] { showPack(*options); }; });
 }

@@ -11,9 +11,9 @@
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/patterns/pattern_json.h"
 #include "zyndle/command_error.h"
+#include "zyndle/command_options.h"
 #include "zyndle/host.h"
 #include "zyndle/output.h"
-#include "zyndle/output_options.h"
 #include "zyndle/pattern_grid.h"
 #include "zyndle/pattern_names.h"
 #include "zyndle/text_columns.h"
@@ -170,11 +170,10 @@ void addPatternsCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<PatternsOptions>();
   CLI::App& command = *app.add_subcommand("patterns", translated(description));
   command.footer(translated(introduction) + translated(examples));
-  command
-      .add_option("NAME", options->name, translated("The pattern's name, in one word or several"))
-      ->type_name("");
-  command.add_option("--library", options->library, translated("Read patterns from a JSON file"))
-      ->type_name("FILE");
+  addArgument(command, "NAME", options->name, message("The pattern's name, in one word or several"))
+      .required(false);
+  addOption(command, "--library", options->library, message("Read patterns from a JSON file"),
+            "FILE");
   addFlag(command, "--json", options->json, message("Write a library in JSON"));
   command.callback([options, &action] { action = [options] { showPatterns(*options); }; });
 }

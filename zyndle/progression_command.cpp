@@ -10,6 +10,7 @@
 #include "Tonelake/chords/chord_json.h"
 #include "Tonelake/content/chord_progression_json.h"
 #include "Tonelake/content/chord_progressions.h"
+#include "zyndle/command_options.h"
 #include "zyndle/connected_shapes.h"
 #include "zyndle/drawing.h"
 #include "zyndle/host.h"
@@ -130,19 +131,13 @@ void addProgressionCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<ProgressionOptions>();
   CLI::App& command = *app.add_subcommand("progression", translated(description));
   command.footer(translated(introduction) + instrumentHelp() + translated(examples));
-  command
-      .add_option("NUMERALS", options->numerals,
-                  translated("The chords as Roman numerals, in their order"))
-      ->required()
-      ->type_name("");
-  command.add_option("--key", options->key, translated("The key (C, or A minor)"))
-      ->type_name("KEY");
+  addArgument(command, "NUMERALS", options->numerals,
+              message("The chords as Roman numerals, in their order"));
+  addOption(command, "--key", options->key, message("The key (C, or A minor)"), "KEY");
   addInstrumentOptions(command, options->instrument);
   addTextOptions(command, options->output);
-  command
-      .add_option("--svg", options->output.svgFile,
-                  translated("Draw the shapes too; - for standard output"))
-      ->type_name("FILE");
+  addOption(command, "--svg", options->output.svgFile,
+            message("Draw the shapes too; - for standard output"), "FILE");
   command.callback([options, &action] { action = [options] { showProgression(*options); }; });
 }
 

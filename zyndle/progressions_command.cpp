@@ -13,6 +13,7 @@
 #include "Tonelake/content/chord_progressions.h"
 #include "Tonelake/foundation/text.h"
 #include "zyndle/command_error.h"
+#include "zyndle/command_options.h"
 #include "zyndle/drawing.h"
 #include "zyndle/host.h"
 #include "zyndle/key_name.h"
@@ -162,10 +163,10 @@ void addProgressionsCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<ProgressionsOptions>();
   CLI::App& command = *app.add_subcommand("progressions", translated(description));
   command.footer(translated(examples));
-  command.add_option("--key", options->key, translated("Only of this key (both of C and A minor)"))
-      ->type_name("KEY");
-  command.add_option("--style", options->style, translated("Only of this style, for example rock"))
-      ->type_name("STYLE");
+  addOption(command, "--key", options->key, message("Only of this key (both of C and A minor)"),
+            "KEY");
+  addOption(command, "--style", options->style, message("Only of this style, for example rock"),
+            "STYLE");
   addFormatOptions(command, options->output);
   command.callback([options, &action] { action = [options] { showProgressions(*options); }; });
 }

@@ -10,6 +10,7 @@
 #include "TodayChordExtension/widgets/shared_settings.h"
 #include "Tonelake/foundation/text.h"
 #include "zyndle/chord_name.h"
+#include "zyndle/command_options.h"
 #include "zyndle/host.h"
 #include "zyndle/output.h"
 #include "zyndle/shared_list.h"
@@ -62,9 +63,7 @@ void addRecentCommand(CLI::App& app, Action& action) {
   CLI::App& add =
       *command.add_subcommand("add", translated("Put a chord first, as if it had been viewed"));
   const auto name = std::make_shared<Words>();
-  add.add_option("CHORD", *name, translated("The chord's name, in one word or several"))
-      ->required()
-      ->type_name("");
+  addArgument(add, "CHORD", *name, message("The chord's name, in one word or several"));
   add.callback([name, &action] { action = [name] { addRecentChord(*name); }; });
 
   CLI::App& list =

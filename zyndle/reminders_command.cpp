@@ -6,7 +6,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include "zyndle/output_options.h"
+#include "zyndle/command_options.h"
 #include "zyndle/reminder_export.h"
 #include "zyndle/reminder_installation.h"
 #include "zyndle/reminder_posting.h"
@@ -34,14 +34,10 @@ Examples:
   zyndle reminders export -o chords.ics      for a calendar, on a telephone say)");
 
 void addMonthOptions(CLI::App& command, MonthOptions& options) {
-  command
-      .add_option("--month-offset", options.monthOffset,
-                  translated("Months from now; else 0, this month"))
-      ->type_name("N");
-  command
-      .add_option("--category", options.category,
-                  translated("beginner, advanced or jazz; else as set"))
-      ->type_name("CATEGORY");
+  addOption(command, "--month-offset", options.monthOffset,
+            message("Months from now; else 0, this month"), "N");
+  addOption(command, "--category", options.category,
+            message("beginner, advanced or jazz; else as set"), "CATEGORY");
 }
 
 void addDelivery(CLI::App& command, Action& action) {
@@ -66,10 +62,9 @@ void addExport(CLI::App& command, Action& action) {
   const auto options = std::make_shared<MonthOptions>();
   const auto file = std::make_shared<std::string>();
   addMonthOptions(app, *options);
-  app.add_option("-o,--output", *file,
-                 translated("The iCalendar file to write, - for standard output"))
-      ->required()
-      ->type_name("FILE");
+  addOption(app, "-o,--output", *file,
+            message("The iCalendar file to write, - for standard output"), "FILE")
+      .required();
   app.callback(
       [options, file, &action] { action = [options, file] { exportReminders(*options, *file); }; });
 }
@@ -92,9 +87,8 @@ void addRemindersCommand(CLI::App& app, Action& action) {
 
   CLI::App& cancel = *command.add_subcommand("cancel", translated("Forget them"));
   const auto category = std::make_shared<std::optional<std::string>>();
-  cancel
-      .add_option("--category", *category, translated("Only those of beginner, advanced or jazz"))
-      ->type_name("CATEGORY");
+  addOption(cancel, "--category", *category, message("Only those of beginner, advanced or jazz"),
+            "CATEGORY");
   cancel.callback([category, &action] { action = [category] { cancelReminders(*category); }; });
 
   addDelivery(command, action);

@@ -11,6 +11,7 @@
 #include "Tonelake/foundation/text.h"
 #include "zyndle/category_option.h"
 #include "zyndle/command_error.h"
+#include "zyndle/command_options.h"
 #include "zyndle/known_settings.h"
 #include "zyndle/output.h"
 #include "zyndle/shared_settings_file.h"
@@ -115,9 +116,7 @@ void deleteSetting(const SettingsOptions& options) {
 }
 
 void addKey(CLI::App& command, SettingsOptions& options) {
-  command.add_option("KEY", options.key, translated("The name of a setting"))
-      ->required()
-      ->type_name("");
+  addArgument(command, "KEY", options.key, message("The name of a setting"));
 }
 
 }  // namespace
@@ -137,7 +136,7 @@ void addSettingsCommand(CLI::App& app, Action& action) {
 
   CLI::App& set = *command.add_subcommand("set", translated("Give a setting a value"));
   addKey(set, *options);
-  set.add_option("VALUE", options->value, translated("The new value"))->required()->type_name("");
+  addArgument(set, "VALUE", options->value, message("The new value"));
   set.callback([options, &action] { action = [options] { setSetting(*options); }; });
 
   CLI::App& remove = *command.add_subcommand("delete", translated("Forget the value of a setting"));

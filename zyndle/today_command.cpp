@@ -16,6 +16,7 @@
 #include "zyndle/category_option.h"
 #include "zyndle/chord_sheet.h"
 #include "zyndle/command_error.h"
+#include "zyndle/command_options.h"
 #include "zyndle/drawing.h"
 #include "zyndle/host.h"
 #include "zyndle/output_options.h"
@@ -137,12 +138,9 @@ void addTodayCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<TodayOptions>();
   CLI::App& command = *app.add_subcommand("today", translated(description));
   command.footer(translated(examples));
-  command
-      .add_option("--category", options->category,
-                  translated("beginner, advanced or jazz; else as set"))
-      ->type_name("CATEGORY");
-  command.add_option("--date", options->date, translated("A day other than today"))
-      ->type_name("YYYY-MM-DD");
+  addOption(command, "--category", options->category,
+            message("beginner, advanced or jazz; else as set"), "CATEGORY");
+  addOption(command, "--date", options->date, message("A day other than today"), "YYYY-MM-DD");
   addOutputOptions(command, options->output);
   command.callback([options, &action] { action = [options] { showToday(*options); }; });
 }

@@ -12,6 +12,7 @@
 #include "Tonelake/foundation/text.h"
 #include "zyndle/chord_name.h"
 #include "zyndle/chord_sheet.h"
+#include "zyndle/command_options.h"
 #include "zyndle/drawing.h"
 #include "zyndle/host.h"
 #include "zyndle/instrument_options.h"
@@ -130,18 +131,13 @@ void addVoicingsCommand(CLI::App& app, Action& action) {
   const auto options = std::make_shared<CommandOptions>();
   CLI::App& command = *app.add_subcommand("voicings", translated(description));
   command.footer(translated(introduction) + instrumentHelp() + translated(examples));
-  command.add_option("NAME", options->name, translated("The chord's name, in one word or several"))
-      ->required()
-      ->type_name("");
+  addArgument(command, "NAME", options->name, message("The chord's name, in one word or several"));
   addInstrumentOptions(command, options->instrument);
-  const auto addNumber = [&command](const char* name, std::optional<std::string>& number,
-                                    const char* meaning) {
-    command.add_option(name, number, translated(meaning))->type_name("N");
-  };
-  addNumber("--limit", options->limit, message("Voicings to show, at most (8)"));
-  addNumber("--max-fret", options->highestFret, message("The highest fret to press (15)"));
-  addNumber("--inner-mutes", options->innerMutes,
-            message("Strings that may be left out inside (1)"));
+  addOption(command, "--limit", options->limit, message("Voicings to show, at most (8)"), "N");
+  addOption(command, "--max-fret", options->highestFret, message("The highest fret to press (15)"),
+            "N");
+  addOption(command, "--inner-mutes", options->innerMutes,
+            message("Strings that may be left out inside (1)"), "N");
   addFlag(command, "--high-open-strings", options->openStringsAboveFifthFret,
           message("Let open strings ring above the fifth fret"));
   addOutputOptions(command, options->output);

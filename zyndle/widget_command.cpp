@@ -18,6 +18,7 @@
 #include "Tonelake/foundation/text.h"
 #include "Tonelake/platform/platform.h"
 #include "zyndle/command_error.h"
+#include "zyndle/command_options.h"
 #include "zyndle/host.h"
 #include "zyndle/output.h"
 #include "zyndle/scale_option.h"
@@ -168,21 +169,15 @@ void addWidgetCommand(CLI::App& app, Action& action, Arguments arguments,
   const auto options = std::make_shared<WidgetOptions>();
   CLI::App& command = *app.add_subcommand("widget", translated(description));
   command.footer(translated(examples));
-  command.add_option("KIND", options->kind, translated("Which widget"))->required()->type_name("");
-  command
-      .add_option("--family", options->family,
-                  translated("Its size; else the first that it offers"))
-      ->type_name("FAMILY");
-  command
-      .add_option("--format", options->format,
-                  translated("svg, png, pdf or json; else by FILE, or svg"))
-      ->type_name("FORMAT");
-  command.add_option("--scale", options->scale, translated("Pixels a point, for png; else 2"))
-      ->type_name("NUMBER");
-  command
-      .add_option("-o,--output", options->file,
-                  translated("Write to a file, not to standard output"))
-      ->type_name("FILE");
+  addArgument(command, "KIND", options->kind, message("Which widget"));
+  addOption(command, "--family", options->family,
+            message("Its size; else the first that it offers"), "FAMILY");
+  addOption(command, "--format", options->format,
+            message("svg, png, pdf or json; else by FILE, or svg"), "FORMAT");
+  addOption(command, "--scale", options->scale, message("Pixels a point, for png; else 2"),
+            "NUMBER");
+  addOption(command, "-o,--output", options->file,
+            message("Write to a file, not to standard output"), "FILE");
   command.callback([=, &action] { action = [=] { showWidget(*options, arguments, more); }; });
 }
 

@@ -1,21 +1,16 @@
 #include "zyndle/hosting/folder_options.h"
 
-#include <CLI/CLI.hpp>
-
 #include "zyndle/command_error.h"
+#include "zyndle/command_options.h"
 #include "zyndle/scale_option.h"
 #include "zyndle/translation.h"
 
 namespace zyndle {
 
 void addFolderOptions(CLI::App& command, FolderOptions& options) {
-  command.add_option("DIR", options.folder, translated("The folder, made where it is missing"))
-      ->required()
-      ->type_name("");
-  command
-      .add_option("--scale", options.scale,
-                  translated("Write PNG too, with so many pixels a point"))
-      ->type_name("NUMBER");
+  addArgument(command, "DIR", options.folder, message("The folder, made where it is missing"));
+  addOption(command, "--scale", options.scale,
+            message("Write PNG too, with so many pixels a point"), "NUMBER");
 }
 
 GalleryOptions readFolderOptions(const FolderOptions& options, std::optional<int> secondsToReload) {
