@@ -13,5 +13,7 @@ def call(method, **parameters):
     library.tonelake_free(answer)
     return result
 
+if len(sys.argv) != 2:
+    sys.exit("usage: chord.py NAME, for example F#m7b5")
 chord = call("lookUpChord", name=sys.argv[1])
 print(*call("getNotesOfChord", chord=chord) if chord else ["no such chord"])
