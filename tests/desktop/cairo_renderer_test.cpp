@@ -2,8 +2,6 @@
 
 #include <cmath>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <limits>
 #include <thread>
 #include <tuple>
@@ -15,6 +13,7 @@
 #include "Desktop/c_pointer.h"
 #include "TodayChordExtension/diagram/diagram_scene.h"
 #include "TodayChordExtension/diagram/scene_shapes.h"
+#include "tests/desktop/temporary_folder.h"
 #include "tests/support/chord_views.h"
 #include "tests/support/program_run.h"
 
@@ -230,10 +229,9 @@ TEST(RenderPng, DrawsTheSamePictureOnEveryThread) {
 }
 
 std::string textOf(const std::string& pdf) {
-  const auto file = std::filesystem::path(::testing::TempDir()) / "cairo_renderer_test.pdf";
-  std::ofstream(file, std::ios::binary) << pdf;
-  const auto run =
-      tonelake::testing::runProgram({{PDFTOTEXT, "-enc", "UTF-8", file.string(), "-"}, {}, "", ""});
+  const TemporaryFolder folder;
+  const auto run = tonelake::testing::runProgram(
+      {{PDFTOTEXT, "-enc", "UTF-8", folder.write("page.pdf", pdf), "-"}, {}, "", ""});
   EXPECT_EQ(run.status, 0) << run.errors;
   return run.output;
 }
